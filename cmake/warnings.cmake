@@ -1,0 +1,16 @@
+# The one place that says how strictly the code is compiled. Libraries and programs link it privately.
+add_library(vorlund_warnings INTERFACE)
+target_compile_options(vorlund_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Werror)
+
+# Checks that only the rules bear: a 16-bit wrap in a toolkit header is not ours to mend.
+add_library(vorlund_rules_checks INTERFACE)
+
+if(VORLUND_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    target_compile_options(vorlund_rules_checks INTERFACE -fsanitize=implicit-conversion)
+    target_link_options(vorlund_rules_checks INTERFACE -fsanitize=implicit-conversion)
+  endif()
+endif()

@@ -1,0 +1,34 @@
+#include "state/ownership.h"
+
+#include "state/int16.h"
+
+namespace vorlund {
+
+void Claim(GameState& game, int t, int player) {
+    Territory& territory = game.TerritoryAt(t);
+    territory.Occupied = true;
+    territory.Owner = static_cast<std::int16_t>(player);
+    game.PlayerAt(player).Owns[static_cast<std::size_t>(t)] = true;
+}
+
+void Abandon(GameState& game, int t) {
+    Territory& territory = game.TerritoryAt(t);
+    Player& owner = game.PlayerAt(territory.Owner);
+    if (territory.HasFactory) {
+        Add(owner.Factories, -1);
+    }
+    owner.Owns[static_cast<std::size_t>(t)] = false;
+    territory.Occupied = false;
+    territory.Owner = NoOwner;
+    territory.HasFactory = false;
+    territory.HasDefense = false;
+}
+
+void Capture(GameState& game, int t, std::int16_t troops, std::int16_t tanks) {
+    Abandon(game, t);
+    Claim(game, t, game.CurrentPlayer);
+    game.TerritoryAt(t).Troops = troops;
+    game.TerritoryAt(t).Tanks = tanks;
+}
+
+}  // namespace vorlund

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace vorlund {
+
+// All in dollars.
+inline constexpr std::int16_t TroopPrice = 10;
+inline constexpr std::int16_t TankPrice = 40;
+inline constexpr std::int16_t FactoryPrice = 180;
+inline constexpr std::int16_t DefensePrice = 100;
+
+// Upgrade prices by the level that is reached: 1, 2, 3.
+inline constexpr std::array<std::int16_t, 3> EconomyPrice{150, 300, 450};
+inline constexpr std::array<std::int16_t, 3> WarfarePrice{200, 400, 600};
+inline constexpr std::array<std::int16_t, 3> NuclearPrice{100, 300, 700};
+
+}  // namespace vorlund

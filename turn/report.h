@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace vorlund {
+
+/// What the report screen shows. Lines of the body end with a carriage return.
+struct Report {
+    std::string Title;
+    std::string Headline;
+    std::string Body;
+
+    bool operator==(const Report&) const = default;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,100 @@
+#include "turn/upkeep.h"
+
+#include <array>
+#include <cmath>
+
+#include "state/int16.h"
+#include "state/ownership.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int TroopUpkeep = 2;
+constexpr int FactoryUpkeep = 1;
+constexpr int OilFieldBarrels = 15;
+constexpr int ResearchRoll = 2;
+constexpr int DebtTurnsBeforeCollapse = 3;
+constexpr std::array<int, 4> ResearchFaces{13, 7, 5, 3};
+
+struct Harvest {
+    std::int16_t Income = 0;  // dollars
+    int Oil = 0;              // barrels
+};
+
+Harvest HarvestOf(const GameState& game, int player) {
+    int income = 0;
+    Harvest harvest;
+    for (int t = 0; t < NumTerritories; ++t) {
+        if (!Owns(game, player, t)) {
+            continue;
+        }
+        income += 4 * game.TerritoryAt(t).Value + 15;
+        harvest.Oil += game.TerritoryAt(t).HasOil ? OilFieldBarrels : 0;
+    }
+    const double multiplier = game.PlayerAt(player).EconomyLevel * 0.1 + 1.0;
+    harvest.Income = ClampInt16(static_cast<std::int64_t>(std::floor(income * multiplier)));
+    return harvest;
+}
+
+void Research(Player& player, Random& random, std::string& body) {
+    const bool found =
+        random.Draw(ResearchFaces[static_cast<std::size_t>(player.NuclearLevel)]) == ResearchRoll;
+    if (found && !player.HasNuke) {
+        player.HasNuke = true;
+        body += "Your nuclear development team has researched a nuclear bomb.\r\r";
+    }
+}
+
+void Collapse(GameState& game, int p) {
+    Player& player = game.PlayerAt(p);
+    player.IsDead = true;
+    ++game.DeadPlayers;
+    const std::int16_t factories = player.Factories;
+    for (int t = 0; t < NumTerritories; ++t) {
+        if (Owns(game, p, t)) {
+            Abandon(game, t);
+            game.TerritoryAt(t).Troops = 0;
+            game.TerritoryAt(t).Tanks = 0;
+        }
+    }
+    player.Factories = factories;  // the totals of the dead stay as they were
+}
+
+}  // namespace
+
+Report RunUpkeep(GameState& game, Random& random, int p) {
+    Player& player = game.PlayerAt(p);
+    const std::int16_t upkeep = ClampInt16(TroopUpkeep * player.Troops + FactoryUpkeep * player.Factories);
+    const std::int16_t tankUpkeep = player.Tanks;
+    const Harvest harvest = HarvestOf(game, p);
+    int money = player.Money - upkeep + harvest.Income;
+    int oil = player.Oil - tankUpkeep + harvest.Oil;
+
+    Report report;
+    report.Title = "Vorlund - Upkeep";
+    report.Headline = "Upkeep status for Player " + std::to_string(p + 1) + ", " + player.Name + ".";
+    std::string& body = report.Body;
+    body = "Upkeep for Troops and Factories: $" + std::to_string(upkeep) + "\r" +
+           "Upkeep for Tanks: " + std::to_string(tankUpkeep) + " barrels\r\r" +
+           "Money collected from territories: $" + std::to_string(harvest.Income) + "\r" +
+           "Remaining money after expenses: $" + std::to_string(harvest.Income - upkeep) + "\r\r";
+    Research(player, random, body);
+
+    if (oil < 0) {
+        money += oil;
+        oil = 0;
+    }
+    player.Money = ClampInt16(money);
+    player.Oil = ClampInt16(oil);
+    if (player.Money < 0) {
+        body += "Your economy is in debt- economic unrest spreads through your land.\r";
+        Add(player.DebtTurns, 1);
+    }
+    if (player.DebtTurns >= DebtTurnsBeforeCollapse) {
+        body += "Your territories collapse due to prolonged periods of lack of funds.";
+        Collapse(game, p);
+    }
+    return report;
+}
+
+}  // namespace vorlund
