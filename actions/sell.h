@@ -1,0 +1,24 @@
+#pragma once
+
+#include <variant>
+
+#include "actions/outcome.h"
+#include "actions/trade.h"
+#include "state/game_state.h"
+#include "turn/report.h"
+
+namespace vorlund {
+
+/// The sale was carried out, it cost the seller's life, and nobody is left alive: the game ends without a
+/// winner and without a report.
+struct NoSurvivor {
+    bool operator==(const NoSurvivor&) const = default;
+};
+
+/// Sells the current player's troops ($7) and tanks ($30) out of one own territory, and oil ($1 for 3
+/// barrels). Quantities are cut down to whole numbers, negative ones become 0, and oil is lowered to whole
+/// lots. A territory whose last units are sold is given up, with the last of them the seller dies. The whole
+/// sale is carried out and reported, or refused.
+std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntries& entries);
+
+}  // namespace vorlund
