@@ -1,0 +1,105 @@
+#include "computer/attacks.h"
+
+#include <optional>
+
+#include "actions/battle.h"
+#include "actions/strike.h"
+#include "computer/borders.h"
+#include "state/ownership.h"
+#include "turn/victory.h"
+
+namespace vorlund {
+namespace {
+
+constexpr std::int16_t TroopsWorthABomb = 20;
+constexpr std::int16_t TroopsThatNeverAttack = 3;  // so many or fewer stay at home
+constexpr std::int16_t TroopsLeftBehind = 2;
+
+struct Pair {
+    int From;
+    int To;
+};
+
+bool StrongEnough(const Territory& from, const Territory& to) {
+    return from.Troops > TroopsThatNeverAttack &&
+           2 * from.Tanks + from.Troops - 2 > 3 * to.Tanks + to.Troops + 2;
+}
+
+std::optional<Pair> ChooseAttack(const GameState& game) {
+    for (int t = 0; t < NumTerritories; ++t) {
+        if (!Owns(game, game.CurrentPlayer, t)) {
+            continue;
+        }
+        const Territory& from = game.TerritoryAt(t);
+        for (const std::int16_t neighbour : from.Neighbours) {
+            if (IsEnemy(game, neighbour) && StrongEnough(from, game.TerritoryAt(neighbour))) {
+                return Pair{t, neighbour};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+std::string BattleLines(const GameState& game, const Battle& battle, bool won) {
+    const auto losses = [](int troops, int tanks) {
+        return std::to_string(troops) + "/" + std::to_string(tanks);
+    };
+    return "\rAttack on " + std::string(game.TerritoryAt(battle.Target).Name) + ", " +
+           game.PlayerAt(battle.Defender).Name + (won ? ", was successful." : ", was held off.") + "\r" +
+           game.Current().Name + " lost " + losses(battle.AttackerTroopLosses, battle.AttackerTankLosses) +
+           " troops/tanks, and defender lost " +
+           losses(battle.DefenderTroopLosses, battle.DefenderTankLosses) + " troops/tanks.\r";
+}
+
+/// True when the attack has eliminated its defender.
+bool Attack(GameState& game, Random& random, Pair pair, std::string& body) {
+    Territory& from = game.TerritoryAt(pair.From);
+    Battle battle = BeginBattle(game, pair.To, from.Troops, from.Tanks);
+    from.Troops = TroopsLeftBehind;
+    from.Tanks = 0;
+    const bool won = Fight(game, random, battle);
+    body += BattleLines(game, battle, won);
+    if (!won) {
+        return false;
+    }
+    Capture(game, pair.To, battle.Troops, battle.Tanks);
+    if (!CheckDead(game, battle.Defender)) {
+        return false;
+    }
+    body += NowDeadText(battle.Defender) + "\r";
+    return true;
+}
+
+}  // namespace
+
+void StrikeByComputer(GameState& game, std::string& body) {
+    if (!game.Current().HasNuke) {
+        return;
+    }
+    for (int t = 0; t < NumTerritories; ++t) {
+        const Territory& target = game.TerritoryAt(t);
+        if (IsEnemy(game, t) && target.Troops >= TroopsWorthABomb) {
+            const BombLosses losses = DropBomb(game, t);
+            body += "Player " + std::to_string(target.Owner + 1) + ", " + game.PlayerAt(target.Owner).Name +
+                    "'s, " + std::string(target.Name) + " was nuked and lost " +
+                    std::to_string(losses.Troops) + " troops and " + std::to_string(losses.Tanks) +
+                    " tanks.\r";
+            return;
+        }
+    }
+}
+
+bool AttackByComputer(GameState& game, Random& random, int quota, std::string& body) {
+    for (int attacks = 0; attacks < quota; ++attacks) {
+        const auto pair = ChooseAttack(game);
+        if (!pair) {
+            return false;
+        }
+        if (Attack(game, random, *pair, body) && game.DeadPlayers == game.NumPlayers - 1) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace vorlund

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "state/game_state.h"
+#include "state/random.h"
+
+namespace vorlund {
+
+/// Claims up to `quota` empty neighbours of the current player's territories, with two new troops and perhaps
+/// a defense in each. Two draws over 10 set from which end territories and neighbour slots are scanned; a
+/// draw over 6 follows each claim. Appends a line per claim to `body`; the number of claims is the result.
+int Expand(GameState& game, Random& random, int quota, std::string& body);
+
+}  // namespace vorlund

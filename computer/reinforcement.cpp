@@ -1,0 +1,72 @@
+#include "computer/reinforcement.h"
+
+#include "computer/borders.h"
+#include "state/int16.h"
+
+namespace vorlund {
+namespace {
+
+// The draws, and how each succeeds.
+constexpr int TankBonusFaces = 80;  // less the number of territories
+constexpr int TankBonusBelow = 12;
+constexpr int QuietTankFaces = 7;
+constexpr int QuietTankRoll = 4;
+
+int CountContacts(const GameState& game) {
+    int contacts = 0;
+    for (int t = 0; t < NumTerritories; ++t) {
+        if (Owns(game, game.CurrentPlayer, t)) {
+            for (const std::int16_t neighbour : game.TerritoryAt(t).Neighbours) {
+                contacts += IsEnemy(game, neighbour) ? 1 : 0;
+            }
+        }
+    }
+    return contacts;
+}
+
+/// The fewer units stand there, the likelier: always a troop up to three, then 3 in `Troops`; a tank 1 in
+/// 2 x `Tanks` + 3.
+void ReinforceQuietBorder(Territory& territory, Random& random) {
+    if (random.Draw(territory.Troops) < 3) {
+        Add(territory.Troops, 1);
+    }
+    if (random.Draw(2 * territory.Tanks + 3) == 0) {
+        Add(territory.Tanks, 1);
+    }
+}
+
+void ReinforceBorders(GameState& game, Random& random, Territory& territory, int share, bool tankBonus) {
+    for (const std::int16_t neighbour : territory.Neighbours) {
+        if (neighbour == NoNeighbour) {
+            continue;
+        }
+        if (IsEnemy(game, neighbour)) {
+            Add(territory.Troops, share);
+            Add(territory.Tanks, tankBonus ? 1 : 0);
+        } else {
+            ReinforceQuietBorder(territory, random);
+        }
+    }
+}
+
+}  // namespace
+
+void Reinforce(GameState& game, Random& random, int territoryCount) {
+    const int pool = territoryCount * 6 / 5;
+    const bool tankBonus = random.Draw(TankBonusFaces - territoryCount) < TankBonusBelow;
+    const int contacts = CountContacts(game);
+    for (int t = 0; t < NumTerritories; ++t) {
+        if (!Owns(game, game.CurrentPlayer, t)) {
+            continue;
+        }
+        Territory& territory = game.TerritoryAt(t);
+        if (contacts > 0) {
+            ReinforceBorders(game, random, territory, pool / contacts, tankBonus);
+        } else {
+            Add(territory.Troops, pool / territoryCount + 1);
+            Add(territory.Tanks, random.Draw(QuietTankFaces) == QuietTankRoll ? 1 : 0);
+        }
+    }
+}
+
+}  // namespace vorlund
