@@ -1,0 +1,33 @@
+#!/usr/bin/python3 -B
+"""Makes the world map: ../pictures/map.png, ../pictures/map@2x.png and outlines.txt, the same to the byte each
+time, and checks them. Ends with status 1 and a list of what is wrong if a check fails."""
+import pathlib
+import sys
+
+import check
+import outlines
+import picture
+import territories
+from warp import Warp
+
+HERE = pathlib.Path(__file__).parent
+
+
+def main():
+    in_degrees, lakes, rivers = territories.load()
+    warp = Warp()
+    arcs = outlines.arcs_in_pixels(in_degrees, warp)
+    land = outlines.lands(in_degrees, arcs, warp)
+    outlines.write(land, HERE / 'outlines.txt')
+    printer = picture.Printer(land, arcs, outlines.lakes_in_pixels(lakes, warp),
+                              outlines.rivers_in_pixels(rivers, warp), warp)
+    for name, scale in (('map.png', 1), ('map@2x.png', 2)):
+        printer.picture(scale).save(HERE.parent / 'pictures' / name, optimize=True)
+    faults = check.run(land, arcs, warp)
+    for fault in faults:
+        print('wrong:', fault)
+    return 1 if faults else 0
+
+
+if __name__ == '__main__':
+    sys.exit(main())

@@ -1,0 +1,118 @@
+"""Colours and small drawings of the map, as SVG."""
+import math
+
+INK, CREAM, BRASS = '#12161b', '#f4ead0', '#c9ac6b'
+ROUTE_COLOUR = '#f6e7b4'
+SANS = 'font-family="Liberation Sans"'
+SERIF = 'font-family="Liberation Serif"'
+
+# Territories and their shades as OKLCH lightness, chroma and hue; dark enough for white counts.
+TINTS = [
+    (range(1, 12), [(.535, .058, 92), (.485, .062, 72), (.455, .05, 112), (.51, .05, 58)]),
+    (range(12, 16), [(.53, .06, 142), (.465, .058, 152), (.50, .06, 124)]),
+    (range(16, 23), [(.53, .055, 312), (.465, .06, 295), (.50, .055, 338), (.44, .05, 322)]),
+    (range(23, 28), [(.53, .07, 55), (.465, .07, 40), (.50, .075, 68)]),
+    (range(28, 39), [(.53, .048, 176), (.455, .05, 196), (.49, .055, 160), (.52, .042, 208)]),
+    (range(39, 43), [(.52, .07, 20), (.465, .07, 8), (.495, .06, 34)]),
+]
+
+
+def oklch(lightness, chroma, hue):
+    """The sRGB colour, 0 to 255 each."""
+    a, b = chroma * math.cos(math.radians(hue)), chroma * math.sin(math.radians(hue))
+    l, m, s = ((lightness + .3963377774 * a + .2158037573 * b) ** 3,
+               (lightness - .1055613458 * a - .0638541728 * b) ** 3,
+               (lightness - .0894841775 * a - 1.2914855480 * b) ** 3)
+    linear = (4.0767416621 * l - 3.3077115913 * m + .2309699292 * s,
+              -1.2684380046 * l + 2.6097574011 * m - .3413193965 * s,
+              -.0041960863 * l - .7034186147 * m + 1.7076147010 * s)
+    curved = (12.92 * v if v <= .0031308 else 1.055 * v ** (1 / 2.4) - .055 for v in linear)
+    return tuple(round(min(max(v, 0), 1) * 255) for v in curved)
+
+
+def tints(arcs):
+    """Territory number -> colour; territories of a continent that touch differ."""
+    touching = {}
+    for a, b in arcs:
+        touching.setdefault(a, set()).add(b)
+        touching.setdefault(b, set()).add(a)
+    out = {}
+    for territories, shades in TINTS:
+        picked = {}
+        for t in sorted(territories, key=lambda t: -len(touching[t] & set(territories))):
+            used = {picked.get(other) for other in touching[t]}
+            counts = list(picked.values())
+            free = [i for i in range(len(shades)) if i not in used] or range(len(shades))
+            picked[t] = min(free, key=lambda i: (counts.count(i), i))
+        out.update({t: oklch(*shades[i]) for t, i in picked.items()})
+    return out
+
+
+def hexadecimal(colour):
+    return '#%02x%02x%02x' % tuple(colour)
+
+
+def open_path(line):
+    return 'M' + 'L'.join('%.2f %.2f' % tuple(point) for point in line)
+
+
+def closed_path(rings):
+    return ''.join(open_path(ring) + 'Z' for ring in rings)
+
+
+def text(x, y, content, size, fill, font=SANS, more=''):
+    return '<text x="%.2f" y="%.2f" font-size="%g" fill="%s" %s %s>%s</text>' % (
+        x, y, size, fill, font, more, content)
+
+
+def badge_size(number):
+    return (8.8 if number < 10 else 12.8), 10.0
+
+
+def badge(x, y, number):
+    """A territory's number."""
+    width, height = badge_size(number)
+    return ('<rect x="%.2f" y="%.2f" width="%.1f" height="%.1f" rx="2.4" fill="%s" stroke="%s" stroke-width=".8"/>'
+            % (x - width / 2, y - height / 2, width, height, CREAM, INK)
+            + text(x, y + 3.2, number, 9, INK, more='font-weight="bold" text-anchor="middle"'))
+
+
+DERRICK = (8.0, 10.6)
+
+
+def derrick(x, y, scale=1.0):
+    """A drilling tower with its middle at (x, y): an oil field."""
+    frame = ('M0 -5L-3.4 4.6M0 -5L3.4 4.6M-4.2 4.7H4.2M-1.2 -1.6H1.2M-2.3 1.5H2.3'
+             'M-1.2 -1.6L2.3 1.5M1.2 -1.6L-2.3 1.5M-2.3 1.5L3.4 4.6M2.3 1.5L-3.4 4.6')
+    return ('<g transform="translate(%.2f %.2f) scale(%.3f)" fill="none" stroke-linecap="round" '
+            'stroke-linejoin="round"><path d="M0 -5L-3.6 4.8H3.6Z" fill="%s" stroke="%s" stroke-width="2.6"/>'
+            '<path d="%s" stroke="%s" stroke-width=".85"/><circle cy="-5.1" r="1.05" fill="%s"/></g>'
+            % (x, y, scale, CREAM, CREAM, frame, INK, INK))
+
+
+def route(path, short=False):
+    return ('<path d="%s" fill="none" stroke="#0b1620" stroke-opacity=".55" stroke-width="2.7" '
+            'stroke-linecap="round"/><path d="%s" fill="none" stroke="%s" stroke-width="1.4" '
+            'stroke-dasharray="%s"/>' % (path, path, ROUTE_COLOUR, '1.7 1.3' if short else '3.4 2.4'))
+
+
+def landing(x, y):
+    return ('<circle cx="%.2f" cy="%.2f" r="1.55" fill="%s" stroke="#0b1620" stroke-width=".6"/>'
+            % (x, y, ROUTE_COLOUR))
+
+
+def compass(x, y, radius):
+    out = ['<g transform="translate(%g %g)" opacity=".5">' % (x, y)]
+    for share, width in ((.64, .6), (.58, .35)):
+        out.append('<circle r="%g" fill="none" stroke="%s" stroke-width="%g"/>' % (radius * share, CREAM, width))
+    for tick in range(72):
+        out.append('<path d="M0 %g V%g" transform="rotate(%d)" stroke="%s" stroke-width=".3"/>'
+                   % (-radius * .58, -radius * (.64 if tick % 2 else .62), tick * 5, CREAM))
+    for point in (1, 3, 5, 7, 0, 2, 4, 6):
+        length, width = (radius, radius * .12) if point % 2 == 0 else (radius * .56, radius * .09)
+        shape = (-length, width, -width)
+        out.append('<g transform="rotate(%d)"><path d="M0 %g L%g %g L0 0Z" fill="#1d3449" stroke="%s" '
+                   'stroke-width=".35"/><path d="M0 %g L%g %g L0 0Z" fill="%s"/></g>'
+                   % (point * 45, *shape, CREAM, -length, -width, -width, CREAM))
+    out.append(text(0, -radius - 2.5, 'N', 8.5, CREAM, SERIF, 'font-weight="bold" text-anchor="middle"') + '</g>')
+    return ''.join(out)

@@ -1,0 +1,56 @@
+"""Lays a full board of five players over the map as the program does, to look at: markers, icons, the longest
+counts, command plates. Writes mockup.png and mockup@2x.png into the folder given."""
+import pathlib
+import sys
+
+import numpy as np
+from PIL import Image
+
+import drawing
+import looks
+import picture
+from world import WORLD
+
+PICTURES = pathlib.Path(__file__).parents[1] / 'pictures'
+COLOURS = ('#C00108', '#F44B08', '#CBCD00', '#0C4C4B', '#2B0981')
+COMMANDS = ('Buy', 'Sell', 'Transport', 'Attack', 'Upgrade', 'Status', 'End Turn', 'Save')
+
+
+def marker(t, entry, longest):
+    colour = COLOURS[t * 7 % 5]
+    building = longest or t % 3 == 0
+    x, y = entry.x - (10 if building else 5), entry.y
+    out = ('<rect x="%d" y="%d" width="10" height="10" fill="#101418"/><rect x="%g" y="%g" width="9" height="9" '
+           'fill="#e8e8e8"/><rect x="%d" y="%d" width="8" height="8" fill="%s"/>'
+           % (x, y, x + .5, y + .5, x + 1, y + 1, colour))
+    if building:
+        out += '<rect x="%d" y="%d" width="10" height="10" fill="#808890"/>' % (entry.x, y)
+    count = '999/99' if longest else '%d/%d' % (5 + t * 37 % 140, t * 5 % 30)
+    style = 'text-anchor="middle" '
+    out += looks.text(entry.x, y + 20.6, count, 9, '#000', more=style + 'stroke="#0a1018" stroke-width="2" '
+                      'stroke-linejoin="round" stroke-opacity=".8"')
+    return out + looks.text(entry.x, y + 20.6, count, 9, '#fff', more=style)
+
+
+def plate(i, caption):
+    x, y = (112, 244, 392, 532)[i // 2], (436, 464)[i % 2]
+    ground, letters = ('#fffbe8', 'rgb(0,0,192)') if i != 4 else ('#0b1a33', 'rgb(128,128,255)')
+    return ('<rect x="%d" y="%d" width="100" height="23" rx="3" fill="%s"/>' % (x - 5, y - 2, ground)
+            + looks.text(x + 45, y + 15, caption, 17, letters,
+                         more='font-weight="bold" font-style="italic" text-anchor="middle"'))
+
+
+def board(scale, longest):
+    out = [marker(t, entry, longest) for t, entry in WORLD.items()]
+    out += [plate(i, caption) for i, caption in enumerate(COMMANDS)]
+    name = 'map.png' if scale == 1 else 'map@2x.png'
+    canvas = np.array(Image.open(PICTURES / name).convert('RGB'), float)
+    canvas = picture.over(canvas, picture.rasterise(drawing.document(out), scale))
+    return Image.fromarray(np.clip(canvas + .5, 0, 255).astype(np.uint8))
+
+
+if __name__ == '__main__':
+    folder = pathlib.Path(sys.argv[1])
+    for kind, longest in (('mockup', False), ('longest', True)):
+        board(1, longest).save(folder / (kind + '.png'))
+        board(2, longest).save(folder / (kind + '@2x.png'))
