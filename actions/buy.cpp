@@ -1,0 +1,79 @@
+#include "actions/buy.h"
+
+#include <cmath>
+
+#include "state/prices.h"
+#include "state/typed_number.h"
+
+namespace vorlund {
+namespace {
+
+constexpr TradeTerms Buying{"buy", "bought", 1, TroopPrice, TankPrice};
+
+// An order is priced with a little more than a third of a dollar a barrel, so that lots of 3 come out whole.
+constexpr double DollarsPerBarrel = 0.3334;
+
+// The price of a whole order; nothing when it does not fit 16 bits.
+std::optional<std::int16_t> PriceOf(const TradeOrder& order) {
+    return CutToInt16(1.0 * TroopPrice * order.Troops + 1.0 * TankPrice * order.Tanks +
+                      std::floor(order.Oil * DollarsPerBarrel));
+}
+
+// Where units of this kind would go, or why they cannot.
+std::variant<Refusal, int> Placement(const GameState& game, const UnitKind& kind,
+                                     const TradeEntries& entries) {
+    const auto choice = UnitTerritory(Buying, kind, entries);
+    if (const int* t = std::get_if<int>(&choice);
+        t != nullptr && !(Owns(game, game.CurrentPlayer, *t) && game.TerritoryAt(*t).HasFactory)) {
+        return Refusal{std::string("To buy ") + kind.Name +
+                       " the territory must have a factory and be owned by you."};
+    }
+    return choice;
+}
+
+}  // namespace
+
+std::string MoneyLine(const GameState& game) {
+    return "You have $" + std::to_string(game.Current().Money) + " to spend.";
+}
+
+std::variant<Refusal, Report> Buy(GameState& game, const TradeEntries& entries) {
+    const auto quantities = ReadQuantities(entries);
+    if (!quantities) {
+        return Refusal{NoTransactionText};
+    }
+    // The place is checked for what was typed: half a troop needs a factory as well.
+    int territory = 0;
+    for (const UnitKind& kind : UnitKinds) {
+        if (*quantities.*kind.Entered != 0) {
+            const auto placement = Placement(game, kind, entries);
+            if (const auto* refusal = std::get_if<Refusal>(&placement)) {
+                return *refusal;
+            }
+            territory = std::get<int>(placement);
+        }
+    }
+    const auto order = CutAndCorrect(*quantities);
+    if (!order || order->IsEmpty()) {
+        return Refusal{NoTransactionText};
+    }
+    const auto price = PriceOf(*order);
+    if (!price) {
+        return Refusal{NoTransactionText};
+    }
+    const int missing = *price - game.Current().Money;
+    if (missing > 0) {
+        return Refusal{
+            "The cost of what you are buying exceeds your amount of money.\r"
+            "You need $" +
+            std::to_string(missing) + " more to complete that transaction."};
+    }
+    const auto booking = Book(game, Buying, *order, territory);
+    if (!booking) {
+        return Refusal{NoTransactionText};
+    }
+    return Report{"Vorlund - Buy", TransactionHeadline,
+                  booking->Lines + "        Total spent: $" + std::to_string(booking->Total)};
+}
+
+}  // namespace vorlund

@@ -1,0 +1,122 @@
+#include "actions/upgrade.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "state/int16.h"
+#include "state/prices.h"
+#include "state/typed_number.h"
+
+namespace vorlund {
+namespace {
+
+struct TrackTerms {
+    const char* Name;
+    std::int16_t Player::*Level;
+    const std::array<std::int16_t, 3>& Prices;
+};
+
+constexpr TrackTerms TermsOf(Track track) {
+    switch (track) {
+        case Track::Economy:
+            return {"Economy", &Player::EconomyLevel, EconomyPrice};
+        case Track::Warfare:
+            return {"Warfare", &Player::WarfareLevel, WarfarePrice};
+        case Track::Nuclear:
+            break;
+    }
+    return {"Nuclear", &Player::NuclearLevel, NuclearPrice};
+}
+
+// The price of the level after `level`, if there is one.
+std::optional<std::int16_t> NextPrice(const TrackTerms& terms, int level) {
+    if (level < 0 || level >= static_cast<int>(terms.Prices.size())) {
+        return std::nullopt;
+    }
+    return terms.Prices[static_cast<std::size_t>(level)];
+}
+
+struct BuildingTerms {
+    const char* Built;     // "... built in Japan."
+    const char* Building;  // "... requires a valid territory number"
+    const char* Priced;    // "... requires $180."
+    const char* Present;   // "not already have ..."
+    bool Territory::*Flag;
+    std::int16_t Price;
+};
+
+constexpr BuildingTerms FactoryTerms{"Factory",   "Building a factory",   "A factory",
+                                     "a factory", &Territory::HasFactory, FactoryPrice};
+constexpr BuildingTerms DefenseTerms{"Defense", "Building defense",     "Defense",
+                                     "defense", &Territory::HasDefense, DefensePrice};
+
+std::optional<int> ReadTerritory(std::string_view typed) {
+    const auto number = ReadNumber(typed);
+    const auto rounded = number ? RoundToInt16(*number) : std::nullopt;
+    if (!rounded || !IsTerritoryNumber(*rounded)) {
+        return std::nullopt;
+    }
+    return *rounded - 1;
+}
+
+std::variant<Refusal, Purchase> Build(GameState& game, const BuildingTerms& terms, std::string_view typed) {
+    const auto t = ReadTerritory(typed);
+    if (!t) {
+        return Refusal{std::string(terms.Building) +
+                       " requires a valid territory number (1-42).\rNo transaction was made."};
+    }
+    Territory& territory = game.TerritoryAt(*t);
+    if (!Owns(game, game.CurrentPlayer, *t) || territory.*terms.Flag) {
+        return Refusal{std::string("The territory must be owned by you\rand not already have ") +
+                       terms.Present + "."};
+    }
+    if (game.Current().Money < terms.Price) {
+        return Refusal{std::string("You do not have enough money.\r") + terms.Priced + " requires $" +
+                       std::to_string(terms.Price) + "."};
+    }
+    territory.*terms.Flag = true;
+    Add(game.Current().Money, -terms.Price);
+    return Purchase{std::string(terms.Built) + " built in " + std::string(territory.Name) + ".\r"};
+}
+
+}  // namespace
+
+TrackStatus StatusOf(const GameState& game, Track track) {
+    const TrackTerms terms = TermsOf(track);
+    const int level = game.Current().*terms.Level;
+    const auto price = NextPrice(terms, level);
+    return {std::string("Current ") + terms.Name + " upgrade: " + std::to_string(level) +
+                "\rNext upgrade cost: $" + (price ? std::to_string(*price) : "max"),
+            price.has_value()};
+}
+
+std::variant<Nothing, Refusal, Purchase> RaiseLevel(GameState& game, Track track) {
+    const TrackTerms terms = TermsOf(track);
+    Player& player = game.Current();
+    const auto price = NextPrice(terms, player.*terms.Level);
+    if (!price) {
+        return Nothing{};
+    }
+    if (player.Money < *price) {
+        return Refusal{"You do not have enough money for this upgrade."};
+    }
+    Add(player.*terms.Level, 1);
+    Add(player.Money, -*price);
+    return Purchase{"Level " + std::to_string(player.*terms.Level) + " " + terms.Name +
+                    " upgrade complete.\r"};
+}
+
+std::variant<Refusal, Purchase> Fact(GameState& game, std::string_view territory) {
+    auto outcome = Build(game, FactoryTerms, territory);
+    if (std::holds_alternative<Purchase>(outcome)) {
+        Add(game.Current().Factories, 1);
+    }
+    return outcome;
+}
+
+std::variant<Refusal, Purchase> Def(GameState& game, std::string_view territory) {
+    return Build(game, DefenseTerms, territory);
+}
+
+}  // namespace vorlund

@@ -1,0 +1,58 @@
+#include "setup/new_game.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "savegame/format.h"
+
+namespace vorlund {
+namespace {
+
+// Refuses the rows whose names are `wrong`, naming the last of them between `before` and `after`.
+template <typename Predicate>
+std::optional<NamesRefusal> RefuseRows(std::span<const std::string> names, Predicate wrong,
+                                       std::string_view before, std::string_view after) {
+    NamesRefusal refusal;
+    for (std::size_t row = 0; row < names.size(); ++row) {
+        if (wrong(names[row])) {
+            ++refusal.Beeps;
+            refusal.Prompt = std::string(before) + std::to_string(row + 1) + std::string(after);
+        }
+    }
+    return refusal.Beeps > 0 ? std::optional(refusal) : std::nullopt;
+}
+
+bool MeansComputer(std::string name) {
+    // Only English letters count, whatever the locale.
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return name == "computer" || name == "comp";
+}
+
+}  // namespace
+
+std::optional<NamesRefusal> EnterNames(GameState& game, std::span<const std::string> names) {
+    const auto isMissing = [](const std::string& name) { return name.empty(); };
+    if (const auto refusal = RefuseRows(names, isMissing, "Enter a name for Player ", ".")) {
+        return refusal;
+    }
+    const auto isLostOnSaving = [](const std::string& name) { return !NameReadsBack(name); };
+    if (const auto refusal = RefuseRows(names, isLostOnSaving, "Enter another name for Player ",
+                                        ", this one cannot be saved.")) {
+        return refusal;
+    }
+    bool anyHuman = false;
+    for (std::size_t row = 0; row < names.size(); ++row) {
+        Player& player = game.Players[row];
+        player.IsComputer = MeansComputer(names[row]);
+        player.Name = player.IsComputer ? "CompPlayer" + std::to_string(row + 1) : names[row];
+        anyHuman = anyHuman || !player.IsComputer;
+    }
+    if (!anyHuman) {
+        return NamesRefusal{"You must have at least one human player.", 0};
+    }
+    game.GameLoaded = false;
+    return std::nullopt;
+}
+
+}  // namespace vorlund

@@ -1,0 +1,110 @@
+#include "setup/selection.h"
+
+#include <algorithm>
+
+#include "state/ownership.h"
+#include "state/typed_number.h"
+
+namespace vorlund {
+namespace {
+
+constexpr std::int16_t StartingTroops = 10;
+
+struct Treasury {
+    std::int16_t Money;
+    std::int16_t Oil;
+};
+
+constexpr Treasury HumanTreasury{100, 0};
+constexpr Treasury ComputerTreasury{9000, 9000};
+
+std::string NumberOf(const GameState& game) {
+    return "Player " + std::to_string(game.CurrentPlayer + 1);
+}
+
+std::string NumberAndName(const GameState& game) {
+    return NumberOf(game) + ", " + game.Current().Name;
+}
+
+void Settle(GameState& game, int t, int p, const Treasury& treasury) {
+    Claim(game, t, p);
+    Territory& territory = game.TerritoryAt(t);
+    territory.HasFactory = true;
+    territory.Troops = StartingTroops;
+    territory.Tanks = 0;
+    Player& player = game.PlayerAt(p);
+    player.Troops = StartingTroops;
+    player.Tanks = 0;
+    player.Factories = 1;
+    player.Money = treasury.Money;
+    player.Oil = treasury.Oil;
+}
+
+bool IsSecluded(const GameState& game, int t) {
+    const Territory& territory = game.TerritoryAt(t);
+    const auto& neighbours = territory.Neighbours;
+    return !territory.Occupied && std::none_of(neighbours.begin(), neighbours.end(), [&](std::int16_t n) {
+        return n != NoNeighbour && game.TerritoryAt(n).Occupied;
+    });
+}
+
+}  // namespace
+
+std::string Selection::Open() {
+    picks_ = 0;
+    for (int p = 0; p < game_.NumPlayers; ++p) {
+        picks_ += game_.PlayerAt(p).IsComputer ? 1 : 0;
+    }
+    do {
+        random_.Reseed();
+        game_.StartingPlayer = static_cast<std::int16_t>(random_.Draw(game_.NumPlayers));
+        game_.CurrentPlayer = game_.StartingPlayer;
+    } while (game_.Current().IsComputer);
+    return NumberAndName(game_) + ", has been chosen to select first.";
+}
+
+Selection::Step Selection::Entr(std::string_view typed) {
+    const auto number = ReadNumber(typed);
+    const auto t = number && IsTerritoryNumber(*number) ? TerritoryIndex(*number) : std::nullopt;
+    if (!t) {
+        return Reject("Invalid territory selection.");
+    }
+    if (game_.TerritoryAt(*t).Occupied) {
+        return Reject("Territory already occupied.");
+    }
+    Settle(game_, *t, game_.CurrentPlayer, HumanTreasury);
+    Step step{Step::Kind::NextHuman,
+              NumberOf(game_) + " selected " + std::string(game_.TerritoryAt(*t).Name) + "\r"};
+    ++picks_;
+    do {
+        game_.CurrentPlayer = static_cast<std::int16_t>((game_.CurrentPlayer + 1) % game_.NumPlayers);
+        random_.Reseed();
+        if (picks_ == game_.NumPlayers) {
+            ClaimForComputers();
+            game_.CurrentPlayer = game_.StartingPlayer;
+            step.What = Step::Kind::Ended;
+            return step;
+        }
+    } while (game_.Current().IsComputer);
+    step.Message += NumberAndName(game_) + ", select a territory.";
+    return step;
+}
+
+Selection::Step Selection::Reject(const std::string& reason) const {
+    return {Step::Kind::Rejected, reason + "\r" + NumberAndName(game_) + ", select again."};
+}
+
+void Selection::ClaimForComputers() {
+    for (int p = 0; p < game_.NumPlayers; ++p) {
+        if (!game_.PlayerAt(p).IsComputer) {
+            continue;
+        }
+        int t = 0;
+        do {
+            t = random_.Draw(NumTerritories);
+        } while (!IsSecluded(game_, t));
+        Settle(game_, t, p, ComputerTreasury);
+    }
+}
+
+}  // namespace vorlund
