@@ -30,7 +30,7 @@ public:
     /// True when a plain file of exactly this path exists.
     bool FileExists(const std::string& path) const;
 
-    /// The saved games, in alphabetical order (by their bytes). Empty when the folder cannot be read.
+    /// The saved games, in alphabetical order whatever the case. Empty when the folder cannot be read.
     std::vector<std::string> List() const;
 
     /// Saves `game`, whose turn a living human has, as `file`, replacing what was saved there. Whatever
@@ -45,7 +45,9 @@ public:
     std::optional<std::string> Delete(const std::string& file) const;
 
 private:
-    std::optional<std::string> Replace(const std::string& file, const std::string& bytes) const;
+    /// Both answer 0 or the system's number of the error.
+    int Replace(const std::string& file, const std::string& bytes) const;
+    int ReadStart(const std::string& file, std::string& bytes) const;
 
     std::string path_;
     SystemCalls calls_;

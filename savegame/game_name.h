@@ -12,9 +12,11 @@ namespace vorlund {
 /// of \ / : * ? " < > | or a control character. Nothing when it can. A name of blanks can be used.
 std::optional<std::string> WhyNoGameName(std::string_view typedName);
 
+/// `text` with its Latin, Greek and Cyrillic capitals made small, as far as they have one counterpart each;
+/// all other characters stay, and so does a text that is not UTF-8.
+std::string LowerCase(std::string_view text);
+
 /// The file of the game `typedName`: without the blanks around it, in lower case, and with ".vrs" behind.
-/// Lower case covers the Latin, Greek and Cyrillic letters that have one counterpart each; all other
-/// characters stay.
 std::string FileNameOf(std::string_view typedName);
 
 /// True for the files that the load screen lists: "*.vrs", case by case as written; ".vrs" alone counts.

@@ -12,7 +12,7 @@ namespace vorlund {
 /// the caller's to repeat.
 struct SystemCalls {
     std::function<int(const std::string& path)> OpenForReading;  ///< a file descriptor
-    std::function<int(const std::string& path)> CreateNew;  ///< ditto, for writing; EEXIST if it is there
+    std::function<int(const std::string& path)> CreateNew;   ///< ditto, for writing; EEXIST if it is there
     std::function<int(const std::string& path)> OpenFolder;  ///< ditto, for Sync
     std::function<long(int file, char* into, std::size_t size)> Read;
     std::function<long(int file, const char* from, std::size_t size)> Write;

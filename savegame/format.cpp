@@ -1,0 +1,245 @@
+#include "savegame/format.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <vector>
+
+#include "savegame/layout.h"
+#include "savegame/windows1252.h"
+#include "state/typed_number.h"
+
+namespace vorlund {
+namespace {
+
+bool NeedsQuotes(std::string_view bytes) {
+    return bytes.starts_with(' ') || bytes.find(',') != std::string_view::npos;
+}
+
+bool IsControl(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < 0x20 || byte == 0x7F;
+}
+
+struct Writer {
+    std::string Bytes;
+
+    bool Line(const std::string& value) {
+        Bytes += value + "\r\n";
+        return true;
+    }
+    bool Integer(std::int16_t value, const char*, const std::string&, std::int16_t, std::int16_t) {
+        return Line((value < 0 ? "" : " ") + std::to_string(value) + " ");
+    }
+    bool Boolean(bool value, const char*, const std::string&) { return Line(value ? "True" : "False"); }
+    bool Name(const std::string& value, const char*, const std::string&) {
+        const std::string bytes = ToWindows1252(value).value_or("?");
+        return Line(NeedsQuotes(bytes) ? '"' + bytes + '"' : bytes);
+    }
+};
+
+std::vector<std::string_view> SplitIntoLines(std::string_view bytes) {
+    std::vector<std::string_view> lines;
+    while (!bytes.empty()) {
+        const auto end = bytes.find('\n');
+        std::string_view line = bytes.substr(0, end);
+        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::string_view WithoutBlanksAround(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+std::optional<int> ReadInteger(std::string_view line) {
+    line = WithoutBlanksAround(line);
+    if (line.starts_with('+') && !line.starts_with("+-")) {
+        line.remove_prefix(1);
+    }
+    int value = 0;
+    const char* const end = line.data() + line.size();
+    const auto [stop, error] = std::from_chars(line.data(), end, value);
+    if (error != std::errc{} || stop != end) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+/// "True" or "False" in any mix of case, or a number, of which only 0 is false.
+std::optional<bool> ReadBoolean(std::string_view line) {
+    std::string word(WithoutBlanksAround(line));
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    std::transform(word.begin(), word.end(), word.begin(), lower);
+    if (word == "true" || word == "false") {
+        return word == "true";
+    }
+    const auto number = ReadNumber(word);
+    return number ? std::optional<bool>(*number != 0) : std::nullopt;
+}
+
+/// The text without the blanks before it and up to a comma, or what stands between double quotes.
+std::optional<std::string> ReadText(std::string_view line) {
+    line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+    if (!line.starts_with('"')) {
+        return FromWindows1252(line.substr(0, line.find(',')));
+    }
+    line.remove_prefix(1);
+    const auto end = line.find('"');
+    if (end == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return FromWindows1252(line.substr(0, end));
+}
+
+/// Reads the lines one after the other and stops at the first that does not hold what it should.
+class Reader {
+public:
+    explicit Reader(std::string_view bytes) : lines_(SplitIntoLines(bytes.substr(0, MaxSavedGameBytes))) {}
+
+    bool Integer(std::int16_t& value, const char* name, const std::string& whose, std::int16_t low,
+                 std::int16_t high) {
+        const auto number = ReadInteger(Line());
+        if (!number || *number < low || *number > high) {
+            return Fail(name, whose,
+                        "a whole number from " + std::to_string(low) + " to " + std::to_string(high));
+        }
+        value = static_cast<std::int16_t>(*number);
+        return Next();
+    }
+
+    bool Boolean(bool& value, const char* name, const std::string& whose) {
+        const auto truth = ReadBoolean(Line());
+        value = truth.value_or(false);
+        return truth ? Next() : Fail(name, whose, "True or False");
+    }
+
+    bool Name(std::string& value, const char* name, const std::string& whose) {
+        const auto text = ReadText(Line());
+        if (!text) {
+            return Fail(name, whose, "closed by a double quote, as it starts with one");
+        }
+        value = *text;
+        return NameReadsBack(value) ? Next() : Fail(name, whose, "1 to 12 characters that can be shown");
+    }
+
+    const BadFile& Bad() const { return bad_; }
+
+private:
+    std::string_view Line() const { return next_ < lines_.size() ? lines_[next_] : std::string_view(); }
+
+    bool Next() {
+        ++next_;
+        return true;
+    }
+
+    bool Fail(const char* name, const std::string& whose, const std::string& expected) {
+        const std::string value = name + (" of " + whose);
+        bad_.Line = static_cast<int>(next_) + 1;
+        bad_.What = next_ < lines_.size() ? value + " must be " + expected + "."
+                                          : "The file ends before " + value + ".";
+        return false;
+    }
+
+    std::vector<std::string_view> lines_;
+    std::size_t next_ = 0;
+    BadFile bad_;
+};
+
+using Finding = std::optional<BadFile>;
+
+/// What is wrong between the lines of territory index `t` and those that say who owns it.
+Finding ExamineTerritory(const GameState& game, int t) {
+    const Territory& territory = game.TerritoryAt(t);
+    const std::string name(World[static_cast<std::size_t>(t)].Name);
+    const int line = TerritoryLine(game.NumPlayers, t);
+    if (territory.Owner != NoOwner && territory.Owner >= game.NumPlayers) {
+        return BadFile{line + 3, "Owner of " + name + " must be a player of this game, or 9 for nobody."};
+    }
+    if (territory.Occupied != (territory.Owner != NoOwner)) {
+        return BadFile{line + 2, name + " must be Occupied when it has an Owner, and only then."};
+    }
+    for (int p = 0; p < game.NumPlayers; ++p) {
+        if (Owns(game, p, t) != (territory.Owner == p)) {
+            return BadFile{PlayerLine(p) + 16 + t,
+                           PlayerWords(p) + "'s Owns and the Owner of " + name + " do not agree."};
+        }
+    }
+    const std::array<bool, LinesPerTerritory> stands{territory.HasDefense, territory.HasFactory, false, false,
+                                                     territory.Tanks != 0, territory.Troops != 0};
+    const auto found = std::find(stands.begin(), stands.end(), true);
+    if (!territory.Occupied && found != stands.end()) {
+        return BadFile{line + static_cast<int>(found - stands.begin()),
+                       name + " belongs to nobody, so nothing can stand in it."};
+    }
+    return std::nullopt;
+}
+
+Finding ExaminePlayer(const GameState& game, int p) {
+    const Player& player = game.PlayerAt(p);
+    const bool ownsNothing = std::find(player.Owns.begin(), player.Owns.end(), true) == player.Owns.end();
+    if (player.IsDead == ownsNothing) {
+        return std::nullopt;
+    }
+    return BadFile{PlayerLine(p) + 1,
+                   PlayerWords(p) + (ownsNothing ? " owns no territory and must be dead."
+                                                 : " owns territories and must be alive.")};
+}
+
+/// The first thing in which the values, each in its range, do not agree with each other.
+Finding Examine(const GameState& game) {
+    Finding finding;
+    for (int t = 0; t < NumTerritories && !finding; ++t) {
+        finding = ExamineTerritory(game, t);
+    }
+    int dead = 0;
+    for (int p = 0; p < game.NumPlayers && !finding; ++p) {
+        finding = ExaminePlayer(game, p);
+        dead += game.PlayerAt(p).IsDead ? 1 : 0;
+    }
+    const int line = TerritoryLine(game.NumPlayers, NumTerritories);
+    if (!finding && (game.Current().IsDead || game.Current().IsComputer)) {
+        finding = BadFile{line, "CurrentPlayer of the game must be a living human player."};
+    }
+    if (!finding && game.DeadPlayers != dead) {
+        finding = BadFile{line + 1, "DeadPlayers of the game must be " + std::to_string(dead) + "."};
+    }
+    return finding;
+}
+
+}  // namespace
+
+std::string WriteGame(const GameState& game) {
+    Writer writer;
+    VisitGame(game, writer);
+    return writer.Bytes;
+}
+
+std::variant<GameState, BadFile> ReadGame(const GameState& fresh, std::string_view bytes) {
+    GameState game = fresh;
+    Reader reader(bytes);
+    if (!VisitGame(game, reader)) {
+        return reader.Bad();
+    }
+    if (const Finding finding = Examine(game)) {
+        return *finding;
+    }
+    game.GameLoaded = true;
+    return game;
+}
+
+bool NameReadsBack(std::string_view utf8Name) {
+    const auto bytes = ToWindows1252(utf8Name);
+    if (!bytes || bytes->empty() || bytes->size() > MaxNameLength ||
+        std::any_of(bytes->begin(), bytes->end(), IsControl)) {
+        return false;
+    }
+    return NeedsQuotes(*bytes) ? bytes->find('"') == std::string::npos : !bytes->starts_with('"');
+}
+
+}  // namespace vorlund

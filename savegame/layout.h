@@ -1,0 +1,93 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <string>
+
+#include "state/game_state.h"
+#include "state/world.h"
+
+namespace vorlund {
+
+// The order of the lines in a saved game, once for the writer and the reader. A visitor is shown each value
+// with its name, whose it is and its range, and answers false to end the visit.
+
+inline constexpr std::int16_t LowestInt16 = std::numeric_limits<std::int16_t>::min();
+inline constexpr std::int16_t HighestInt16 = std::numeric_limits<std::int16_t>::max();
+
+inline constexpr int LinesPerPlayer = 16 + NumTerritories;
+inline constexpr int LinesPerTerritory = 6;
+
+/// The first line of player index `player`.
+constexpr int PlayerLine(int player) {
+    return 2 + LinesPerPlayer * player;
+}
+
+/// The first line of territory index `territory` in a game of `players` players. The territory after the
+/// last one gives the line of CurrentPlayer.
+constexpr int TerritoryLine(int players, int territory) {
+    return PlayerLine(players) + LinesPerTerritory * territory;
+}
+
+inline std::string PlayerWords(int player) {
+    return "Player " + std::to_string(player + 1);
+}
+
+/// Totals may be anything: those of computer players lag behind what they own, even below zero.
+template <typename PlayerType, typename Visitor>
+bool VisitPlayer(PlayerType& player, const std::string& whose, Visitor& visitor) {
+    return visitor.Integer(player.AttacksLeft, "AttacksLeft", whose, 0, 2) &&
+           visitor.Boolean(player.IsDead, "IsDead", whose) &&
+           visitor.Integer(player.DebtTurns, "DebtTurns", whose, 0, HighestInt16) &&
+           visitor.Integer(player.EconomyLevel, "EconomyLevel", whose, 0, 3) &&
+           visitor.Integer(player.Factories, "Factories", whose, LowestInt16, HighestInt16) &&
+           visitor.Boolean(player.FirstTurn, "FirstTurn", whose) &&
+           visitor.Integer(player.Money, "Money", whose, LowestInt16, HighestInt16) &&
+           visitor.Integer(player.MovesLeft, "MovesLeft", whose, 0, 2) &&
+           visitor.Name(player.Name, "Name", whose) &&
+           visitor.Integer(player.NuclearLevel, "NuclearLevel", whose, 0, 3) &&
+           visitor.Boolean(player.HasNuke, "HasNuke", whose) &&
+           visitor.Integer(player.Oil, "Oil", whose, LowestInt16, HighestInt16) &&
+           visitor.Integer(player.Tanks, "Tanks", whose, LowestInt16, HighestInt16) &&
+           visitor.Integer(player.Troops, "Troops", whose, LowestInt16, HighestInt16) &&
+           visitor.Integer(player.WarfareLevel, "WarfareLevel", whose, 0, 3) &&
+           visitor.Boolean(player.IsComputer, "IsComputer", whose);
+}
+
+template <typename TerritoryType, typename Visitor>
+bool VisitTerritory(TerritoryType& territory, const std::string& whose, Visitor& visitor) {
+    return visitor.Boolean(territory.HasDefense, "HasDefense", whose) &&
+           visitor.Boolean(territory.HasFactory, "HasFactory", whose) &&
+           visitor.Boolean(territory.Occupied, "Occupied", whose) &&
+           visitor.Integer(territory.Owner, "Owner", whose, 0, NoOwner) &&
+           visitor.Integer(territory.Tanks, "Tanks", whose, 0, HighestInt16) &&
+           visitor.Integer(territory.Troops, "Troops", whose, 0, HighestInt16);
+}
+
+/// Shows every value of `game` to `visitor`, in file order. False when the visitor ended the visit.
+template <typename Game, typename Visitor>
+bool VisitGame(Game& game, Visitor& visitor) {
+    if (!visitor.Integer(game.NumPlayers, "NumPlayers", "the game", 2, MaxPlayers)) {
+        return false;
+    }
+    for (int p = 0; p < game.NumPlayers; ++p) {
+        if (!VisitPlayer(game.PlayerAt(p), PlayerWords(p), visitor)) {
+            return false;
+        }
+        for (std::size_t t = 0; t < NumTerritories; ++t) {
+            if (!visitor.Boolean(game.PlayerAt(p).Owns[t], "Owns", PlayerWords(p))) {
+                return false;
+            }
+        }
+    }
+    for (std::size_t t = 0; t < NumTerritories; ++t) {
+        if (!VisitTerritory(game.Territories[t], std::string(World[t].Name), visitor)) {
+            return false;
+        }
+    }
+    const auto last = static_cast<std::int16_t>(game.NumPlayers - 1);
+    return visitor.Integer(game.CurrentPlayer, "CurrentPlayer", "the game", 0, last) &&
+           visitor.Integer(game.DeadPlayers, "DeadPlayers", "the game", 0, last);
+}
+
+}  // namespace vorlund
