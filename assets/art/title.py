@@ -1,0 +1,75 @@
+"""The title picture: the earth at dawn, on the black of the title window. The window cuts
+it to the left 208 columns, so that is where the composition ends; nothing but black touches
+an edge."""
+import random
+
+from earth import Globe
+from ink import BRASS, CREAM, circle_path, fill, number, picture, ring, stroke
+
+CX, CY, R = 104, 50, 40
+FIRST, LAST = 3, 205          # columns the frame shows, less a margin
+
+
+def stars():
+    rng = random.Random(42)
+    out = []
+    while len(out) < 92:
+        x, y = rng.uniform(FIRST, LAST), rng.uniform(2, 98)
+        bright = rng.random() ** 3
+        far = ((x - CX) ** 2 + (y - CY) ** 2) ** .5
+        fade = min(1, min(x - FIRST, LAST - x) / 30)
+        if far < R + 9 or rng.random() > fade:
+            continue
+        # On whole pixels a star is a point, not a smudge.
+        size = 1 if bright > .5 else .5
+        x, y = round(x), round(y)
+        colour = ('#ffffff', '#cfe0f2', '#f6e3bd')[len(out) % 3]
+        out.append('<rect x="%s" y="%s" width="%s" height="%s" fill="%s" fill-opacity="%s"/>' % (
+            x, y, size, size, colour, number((.35 + .65 * bright) * (.5 + .5 * fade))))
+    return out
+
+
+def orbit(front):
+    """A thin course round the globe; the part behind it is hidden by the globe itself."""
+    half = 'M%d 0A84 17 0 0 %d %d 0' % (-84, 0 if front else 1, 84)
+    place = 'transform="translate(%d %d) rotate(-14)"' % (CX, CY)
+    out = ['<g %s>%s</g>' % (place, stroke(half, BRASS, .7, .75 if front else .4, 'stroke-dasharray="4 3"'))]
+    if front:
+        out.append('<g %s><g transform="translate(54 13.1)"><circle r="1.8" fill="%s" stroke="#000" stroke-width=".8"/>'
+                   '</g></g>' % (place, CREAM))
+    return out
+
+
+def earth():
+    view = Globe(14, 30, CX, CY, R)
+    land = view.land(.8)
+    disc = circle_path(CX, CY, R)
+    return ['<defs><radialGradient id="sea" cx=".34" cy=".3" r=".85"><stop offset="0" stop-color="#5d8ba8"/>'
+            '<stop offset=".4" stop-color="#35566f"/><stop offset="1" stop-color="#1b3046"/></radialGradient>'
+            '<radialGradient id="soil" gradientUnits="userSpaceOnUse" cx="90" cy="36" r="56">'
+            '<stop offset="0" stop-color="#cdbb8b"/><stop offset=".45" stop-color="#98946a"/>'
+            '<stop offset="1" stop-color="#4f5d47"/></radialGradient>'
+            '<radialGradient id="night" cx=".3" cy=".32" r=".78"><stop offset=".52" stop-color="#000" stop-opacity="0"/>'
+            '<stop offset=".8" stop-color="#000309" stop-opacity=".72"/>'
+            '<stop offset="1" stop-color="#000" stop-opacity=".96"/></radialGradient>'
+            '<radialGradient id="air" gradientUnits="userSpaceOnUse" cx="101.5" cy="48" r="46">'
+            '<stop offset=".83" stop-color="#6fb0d8" stop-opacity=".5"/>'
+            '<stop offset=".91" stop-color="#4b86ad" stop-opacity=".2"/>'
+            '<stop offset="1" stop-color="#2d5b7c" stop-opacity="0"/></radialGradient>'
+            '<linearGradient id="limb" x1="0" y1="0" x2=".8" y2=".8"><stop offset="0" stop-color="#e4f4ff"/>'
+            '<stop offset=".5" stop-color="#8fc4e4" stop-opacity=".7"/>'
+            '<stop offset=".8" stop-color="#8fc4e4" stop-opacity="0"/></linearGradient></defs>',
+            fill(circle_path(101.5, 48, 46), 'url(#air)'), fill(circle_path(CX, CY, R + .3), '#000'),
+            fill(disc, 'url(#sea)'), stroke(view.graticule(15), '#fff', .45, .16),
+            stroke(land, '#7aa3b6', 2, .5), fill(land, 'url(#soil)', 1, 'fill-rule="evenodd"'),
+            stroke(land, '#141a16', .3, .8), fill(disc, 'url(#night)'),
+            ring(CX, CY, R - .3, 'url(#limb)', .9)]
+
+
+def main():
+    picture('earth', 220, 100, ['<rect width="220" height="100" fill="#000"/>'] + stars() + orbit(False) + earth()
+            + orbit(True))
+
+
+if __name__ == '__main__':
+    main()
