@@ -44,7 +44,8 @@ void PrepareSdl() {
     SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "dropframe");  // the gunfire ends in a short block
     SDL_LogSetOutputFunction(nullptr, nullptr);
     using Setter = int (*)(AlsaErrorHandler);
-    if (auto set = reinterpret_cast<Setter>(QLibrary::resolve("asound", 2, "snd_lib_error_set_handler"))) {
+    if (auto set = reinterpret_cast<Setter>(
+            QLibrary::resolve(QStringLiteral("asound"), 2, "snd_lib_error_set_handler"))) {
         set(IgnoreAlsaError);
     }
 }
@@ -198,6 +199,7 @@ void Sound::Work(Mailbox& mailbox) {
     }
     lock.unlock();
     speaker.reset();
+    SDL_TLSCleanup();  // SDL frees what belongs to a thread only for threads it made itself
     lock.lock();
     mailbox.ended = true;
     mailbox.changed.notify_all();
