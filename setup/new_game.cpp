@@ -37,8 +37,8 @@ std::optional<NamesRefusal> EnterNames(GameState& game, std::span<const std::str
         return refusal;
     }
     const auto isLostOnSaving = [](const std::string& name) { return !NameReadsBack(name); };
-    if (const auto refusal = RefuseRows(names, isLostOnSaving, "Enter another name for Player ",
-                                        ", this one cannot be saved.")) {
+    if (const auto refusal =
+            RefuseRows(names, isLostOnSaving, "Player ", "'s name cannot be saved; enter another.")) {
         return refusal;
     }
     bool anyHuman = false;
