@@ -93,10 +93,30 @@ def draw_routes(land, warp):
     return out + ends
 
 
+def frame():
+    """The line that a printed map has around it."""
+    edge = '<rect x="%g" y="%g" width="%g" height="%g" fill="none" stroke="%s" stroke-width="%g" %s/>'
+    return [edge % (1.5, 1.5, 747, 425.6, '#060c14', 3, 'stroke-opacity=".6"'),
+            edge % (2, 2, 746, 424.6, looks.BRASS, 1.6, 'stroke-opacity=".42" stroke-dasharray="25 25"'),
+            edge % (4.2, 4.2, 741.6, 420.2, looks.BRASS, .6, 'stroke-opacity=".5"')]
+
+
+def cartouche(x, y):
+    """The map's title."""
+    middle = 'text-anchor="middle" '
+    rule = '<path d="M%g %gH%gM%g %gH%g" stroke="%s" stroke-opacity=".6" stroke-width=".6"/><path d="M%g %gl2.6 ' \
+           '-2.6l2.6 2.6l-2.6 2.6Z" fill="%s" fill-opacity=".8"/>'
+    return [looks.text(x - 1, y, 'VORLUND', 19, '#e9d9ae', looks.SERIF, middle + 'letter-spacing="6" '
+                       'fill-opacity=".85"'),
+            rule % (x - 66, y + 8, x - 6, x + 6, y + 8, x + 66, looks.BRASS, x - 2.6, y + 8, looks.BRASS),
+            looks.text(x, y + 20, 'The World in Forty-two Territories', 9, '#cfdbe2', looks.SERIF,
+                       middle + 'font-style="italic" fill-opacity=".8"')]
+
+
 def round_signs():
     """Where the route round the edge of the map leads to."""
     out = []
-    for x, sign, number in ((13, -1, 29), (737, 1, 1)):
+    for x, sign, number in ((17, -1, 29), (733, 1, 1)):
         out.append(looks.text(x + (2 if sign < 0 else -2), 47, number, 9, looks.ROUTE_COLOUR,
                               more='font-weight="bold" text-anchor="middle"'))
         tip = x + sign * 9
@@ -141,9 +161,11 @@ def ink(land, arcs, warp):
            stroke % (groups[True], looks.INK, 1, 1.15)]
     for x, y in meeting_points(arcs):
         out.append('<circle cx="%.2f" cy="%.2f" r="1.7" fill="%s"/>' % (x, y, looks.INK))
+    out += frame()
     out += draw_routes(land, warp)
     out += round_signs()
-    out.append(looks.compass(62, 366, 30))
+    out.append(looks.compass(62, 362, 30))
+    out += cartouche(652, 384)
     out += [looks.derrick(x, y) for x, y in labels.DERRICKS.values()]
     out += [callout(t, land, x, y) for t, (x, y) in labels.NUMBERS.items()]
     out += [looks.badge(x, y, t) for t, (x, y) in labels.NUMBERS.items()]

@@ -22,8 +22,9 @@ def main():
     printer = picture.Printer(land, arcs, outlines.lakes_in_pixels(lakes, warp),
                               outlines.rivers_in_pixels(rivers, warp), warp)
     for name, scale in (('map.png', 1), ('map@2x.png', 2)):
-        printer.picture(scale).save(HERE.parent / 'pictures' / name, optimize=True)
-    faults = check.run(land, arcs, warp)
+        image = printer.picture(scale)
+        image.save(picture.PICTURES / name, optimize=True)
+    faults = check.run(land, arcs, warp, image)
     for fault in faults:
         print('wrong:', fault)
     return 1 if faults else 0

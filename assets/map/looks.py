@@ -66,15 +66,16 @@ def text(x, y, content, size, fill, font=SANS, more=''):
 
 
 def badge_size(number):
-    return (8.8 if number < 10 else 12.8), 10.0
+    """Width and height with the outline; whole pixels, so that a badge at whole coordinates is crisp."""
+    return (10 if number < 10 else 14), 10
 
 
 def badge(x, y, number):
     """A territory's number."""
     width, height = badge_size(number)
-    return ('<rect x="%.2f" y="%.2f" width="%.1f" height="%.1f" rx="2.4" fill="%s" stroke="%s" stroke-width=".8"/>'
-            % (x - width / 2, y - height / 2, width, height, CREAM, INK)
-            + text(x, y + 3.2, number, 9, INK, more='font-weight="bold" text-anchor="middle"'))
+    return ('<rect x="%g" y="%g" width="%g" height="%g" rx="2.2" fill="%s" stroke="%s"/>'
+            % (x - width / 2 + .5, y - height / 2 + .5, width - 1, height - 1, CREAM, INK)
+            + text(x, y + 3.1, number, 9, INK, more='font-weight="bold" text-anchor="middle"'))
 
 
 DERRICK = (8.0, 10.6)

@@ -12,24 +12,21 @@ import picture
 from world import WORLD
 
 PICTURES = pathlib.Path(__file__).parents[1] / 'pictures'
-COLOURS = ('#C00108', '#F44B08', '#CBCD00', '#0C4C4B', '#2B0981')
 COMMANDS = ('Buy', 'Sell', 'Transport', 'Attack', 'Upgrade', 'Status', 'End Turn', 'Save')
 
 
-def marker(t, entry, longest):
-    colour = COLOURS[t * 7 % 5]
-    building = longest or t % 3 == 0
-    x, y = entry.x - (10 if building else 5), entry.y
-    out = ('<rect x="%d" y="%d" width="10" height="10" fill="#101418"/><rect x="%g" y="%g" width="9" height="9" '
-           'fill="#e8e8e8"/><rect x="%d" y="%d" width="8" height="8" fill="%s"/>'
-           % (x, y, x + .5, y + .5, x + 1, y + 1, colour))
-    if building:
-        out += '<rect x="%d" y="%d" width="10" height="10" fill="#808890"/>' % (entry.x, y)
-    count = '999/99' if longest else '%d/%d' % (5 + t * 37 % 140, t * 5 % 30)
+def lay(canvas, name, x, y, scale):
+    layer = np.array(Image.open(PICTURES / (name + ('.png', '@2x.png')[scale - 1])).convert('RGBA'), float)
+    place = slice(y * scale, (y + 10) * scale), slice(x * scale, (x + 10) * scale)
+    canvas[place] = picture.over(canvas[place], layer)
+
+
+def count(t, entry, longest):
+    words = '999/99' if longest else '%d/%d' % (5 + t * 37 % 140, t * 5 % 30)
     style = 'text-anchor="middle" '
-    out += looks.text(entry.x, y + 20.6, count, 9, '#000', more=style + 'stroke="#0a1018" stroke-width="2" '
-                      'stroke-linejoin="round" stroke-opacity=".8"')
-    return out + looks.text(entry.x, y + 20.6, count, 9, '#fff', more=style)
+    return (looks.text(entry.x, entry.y + 20.6, words, 9, '#000', more=style + 'stroke="#0a1018" '
+                       'stroke-width="2" stroke-linejoin="round" stroke-opacity=".8"')
+            + looks.text(entry.x, entry.y + 20.6, words, 9, '#fff', more=style))
 
 
 def plate(i, caption):
@@ -41,11 +38,16 @@ def plate(i, caption):
 
 
 def board(scale, longest):
-    out = [marker(t, entry, longest) for t, entry in WORLD.items()]
-    out += [plate(i, caption) for i, caption in enumerate(COMMANDS)]
     name = 'map.png' if scale == 1 else 'map@2x.png'
     canvas = np.array(Image.open(PICTURES / name).convert('RGB'), float)
-    canvas = picture.over(canvas, picture.rasterise(drawing.document(out), scale))
+    for t, entry in WORLD.items():
+        building = longest or t % 3 == 0
+        lay(canvas, 'marker%d' % (t * 7 % 5), entry.x - (10 if building else 5), entry.y, scale)
+        if building:
+            lay(canvas, 'extra%d' % (t % 4 % 3), entry.x, entry.y, scale)
+    drawn = [count(t, entry, longest) for t, entry in WORLD.items()]
+    drawn += [plate(i, caption) for i, caption in enumerate(COMMANDS)]
+    canvas = picture.over(canvas, picture.rasterise(drawing.document(drawn), scale))
     return Image.fromarray(np.clip(canvas + .5, 0, 255).astype(np.uint8))
 
 

@@ -1,5 +1,6 @@
 """Territories in degrees -> shared borders and coasts in pixels -> each territory's outline."""
 import heapq
+import math
 
 from shapely.geometry import LineString, Polygon
 from shapely.ops import linemerge, polygonize, unary_union
@@ -88,18 +89,22 @@ def borders(territories):
 
 
 def collapse(arcs):
-    """Draws the meeting point of four territories as one point."""
-    moved = {}
-    for key, lines in arcs.items():
-        for line in lines if key[0] and key not in PAIRS else []:
-            if LineString(line).length < MEETING:
-                moved[line[-1]] = line[0]
+    """Draws the place where four territories meet, two pairs of them no neighbours, as one point."""
+    needless = [(pair, line) for pair, lines in arcs.items() if pair[0] and pair not in PAIRS
+                for line in lines if LineString(line).length < MEETING]
+    meetings = [line[0] for _, line in needless]
+
+    def pull(point):
+        return next((meeting for meeting in meetings if math.dist(point, meeting) < MEETING), point)
+
     out = {}
-    for key, lines in arcs.items():
+    for pair, lines in arcs.items():
         for line in lines:
-            ends = [moved.get(line[0], line[0])] + line[1:-1] + [moved.get(line[-1], line[-1])]
-            if not (key[0] and key not in PAIRS and ends[0] == ends[-1]):
-                out.setdefault(key, []).append(ends)
+            if (pair, line) not in needless:
+                pulled = [pull(point) for point in line]
+                kept = [p for i, p in enumerate(pulled) if i == 0 or p != pulled[i - 1]]
+                if len(kept) > 1:
+                    out.setdefault(pair, []).append(kept)
     return out
 
 

@@ -1,5 +1,6 @@
 """Prints the layers over one another."""
 import io
+import pathlib
 import subprocess
 
 import numpy as np
@@ -7,6 +8,9 @@ from PIL import Image
 
 import drawing
 import relief
+import strip
+
+PICTURES = pathlib.Path(__file__).parents[1] / 'pictures'
 
 
 def rasterise(svg, scale):
@@ -25,6 +29,15 @@ def at_scale(array, scale):
     step = relief.GRID // scale
     shape = (array.shape[0] // step, step, array.shape[1] // step, step) + array.shape[2:]
     return array.reshape(shape).mean(axis=(1, 3))
+
+
+def lay_pictures(canvas, scale):
+    """Puts the program's markers and icons into the legend."""
+    for name, left in strip.PICTURES:
+        layer = np.array(Image.open(PICTURES / (name + ('.png', '@2x.png')[scale - 1])).convert('RGBA'), float)
+        rows = slice((strip.MIDDLE - 5) * scale, (strip.MIDDLE + 5) * scale)
+        columns = slice(left * scale, (left + 10) * scale)
+        canvas[rows, columns] = over(canvas[rows, columns], layer)
 
 
 class Printer:
@@ -48,4 +61,5 @@ class Printer:
         ground[:rows, :, :3] *= at_scale(self._shade, scale)[..., None]
         canvas = over(canvas, np.clip(ground, 0, 255))
         canvas = over(canvas, rasterise(self._ink, scale))
+        lay_pictures(canvas, scale)
         return Image.fromarray(np.clip(canvas + .5, 0, 255).astype(np.uint8))

@@ -11,8 +11,8 @@ WIDTH, HEIGHT = 750, 428
 SHAPE = (HEIGHT * GRID, WIDTH * GRID)
 
 # Distance from the coast in pixels -> colour of the sea.
-DEPTHS = [(0, '#6f9bab'), (2.2, '#53819a'), (6, '#3c6683'), (14, '#2b506d'), (34, '#21405c'), (80, '#1a344e'),
-          (160, '#152b42')]
+DEPTHS = [(0, '#557f93'), (2.0, '#446d86'), (6, '#345a76'), (14, '#284a66'), (34, '#1f3d58'), (80, '#193149'),
+          (160, '#14283d')]
 WATERLINES = [(3.0, .16), (6.2, .11), (10.2, .075), (15.0, .045)]   # distance, strength
 
 
@@ -61,7 +61,7 @@ def land_shade(warp):
         mountains = np.maximum(mountains, width * .36 * np.exp(-(away / width)**2))
     height = mountains * (.35 + .65 * ridged) + .22 * rough + .5 * noise(9, 40, 2)
     shade = hillshade(ndimage.gaussian_filter(height, .55 * GRID), .62)
-    return 1 + .30 * np.clip(shade, -.75, .75) + .010 * np.minimum(mountains, 3)
+    return 1 + .36 * np.clip(shade, -.75, .75) + .010 * np.minimum(mountains, 3)
 
 
 def sea_colour(land, warp):

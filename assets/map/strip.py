@@ -1,36 +1,43 @@
 """The strip below the map: a dark ground for the program's command plates, and the legend."""
 import looks
 
-TOP, BOTTOM = 428, 525
+MIDDLE = 507                # of the legend's line
 CAPTION = '#c6cfd8'
+# The program's own pictures in the legend: name, left edge.
+PICTURES = (('marker0', 320), ('extra1', 446), ('extra0', 516), ('extra2', 589))
 
 
 def panel():
-    out = ['<defs><linearGradient id="strip" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#101c2b"/>'
-           '<stop offset="1" stop-color="#080e17"/></linearGradient><clipPath id="inside">'
-           '<rect x="0" y="428" width="750" height="97"/></clipPath></defs>',
-           '<rect x="0" y="428" width="750" height="97" fill="url(#strip)"/>']
-    rings = ''.join('<circle cx="%g" cy="%g" r="%g"/>' % (x, y, r)
-                    for x, y in ((52, 462), (698, 462)) for r in range(8, 420, 9))
-    out.append('<g clip-path="url(#inside)" fill="none" stroke="#8fb4cc" stroke-opacity=".05" stroke-width=".6">'
-               + rings + '</g>')
-    out.append('<path d="M0 428.6H750" stroke="#05080d" stroke-width="1.6"/>'
-               '<path d="M0 430.2H750M0 522.6H750" stroke="%s" stroke-opacity=".55" stroke-width=".8"/>'
-               '<path d="M20 491.5H730" stroke="%s" stroke-opacity=".25" stroke-width=".6"/>'
-               % (looks.BRASS, looks.BRASS))
+    out = ['<defs><linearGradient id="strip" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#0f1b2a"/>'
+           '<stop offset="1" stop-color="#070c14"/></linearGradient><clipPath id="inside">'
+           '<rect y="430" width="750" height="62"/></clipPath></defs>',
+           '<rect y="428" width="750" height="97" fill="url(#strip)"/>',
+           '<g clip-path="url(#inside)" fill="none" stroke="#7fa9c6" stroke-width=".6">']
+    for x in (46, 704):
+        for ring in range(1, 12):
+            out.append('<circle cx="%g" cy="461" r="%g" stroke-opacity="%.3f"/>' % (x, ring * 8, .26 - .021 * ring))
+        for angle in range(0, 360, 30):
+            out.append('<path d="M0 -8V-56" transform="translate(%g 461) rotate(%d)" stroke-opacity=".09"/>'
+                       % (x, angle))
+    out.append('</g><path d="M0 428.4H750" stroke="#04070b" stroke-width="1.6"/>'
+               '<path d="M0 429.8H750" stroke="{0}" stroke-opacity=".6" stroke-width=".8"/>'
+               '<path d="M24 492.5H726" stroke="{0}" stroke-opacity=".3" stroke-width=".6"/>'
+               '<path d="M4 513V521H12M746 513V521H738" fill="none" stroke="{0}" stroke-opacity=".5"/>'
+               .format(looks.BRASS))
     return out
+
+
+def legend():
+    def caption(x, words, colour=CAPTION):
+        return looks.text(x, MIDDLE + 3.2, words, 9, colour)
+
+    return [looks.badge(46, MIDDLE, 7), caption(55, 'territory number'),
+            looks.derrick(149, MIDDLE, 1.05), caption(159, 'oil field'),
+            looks.route('M221 %gH245' % MIDDLE), looks.landing(221, MIDDLE), looks.landing(245, MIDDLE),
+            caption(252, 'sea route'),
+            caption(335, '12/3', '#ffffff'), caption(356, 'troops / tanks'),
+            caption(461, 'factory'), caption(531, 'defense'), caption(604, 'factory and defense')]
 
 
 def draw():
-    out = panel()
-    y = 507
-    def caption(x, words):
-        out.append(looks.text(x, y + 3.2, words, 9, CAPTION))
-    out.append(looks.badge(34, y, 7))
-    caption(42, 'territory')
-    out.append(looks.derrick(112, y, 1.05))
-    caption(120, 'oil field')
-    out.append(looks.route('M190 %gH214' % y))
-    out.append(looks.landing(190, y) + looks.landing(214, y))
-    caption(220, 'sea route')
-    return out
+    return panel() + legend()

@@ -1,0 +1,192 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "state/world.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int Sea = 0;
+constexpr int PictureWidth = 750;
+constexpr int LastLandRow = 391;
+
+// In tenths of a pixel, as the file has them.
+using Point = std::pair<int, int>;
+using Pair = std::pair<int, int>;
+
+struct Ring {
+    int territory = 0;
+    std::vector<Point> points;
+};
+
+struct Place {
+    int x;
+    int y;
+    int territory;
+    const char* what;
+};
+
+std::vector<Ring> ReadOutlines() {
+    std::ifstream file(VORLUND_SOURCE_DIR "/assets/map/outlines.txt");
+    std::vector<Ring> rings;
+    int territory = 0;
+    std::size_t count = 0;
+    while (file >> territory >> count) {
+        Ring ring{territory, std::vector<Point>(count)};
+        for (Point& point : ring.points) {
+            file >> point.first >> point.second;
+        }
+        EXPECT_TRUE(file) << "a ring of territory " << territory << " breaks off";
+        rings.push_back(ring);
+    }
+    EXPECT_TRUE(file.eof());
+    return rings;
+}
+
+const std::vector<Ring>& Outlines() {
+    static const std::vector<Ring> rings = ReadOutlines();
+    return rings;
+}
+
+bool IsInside(const Ring& ring, Point place) {
+    bool inside = false;
+    Point a = ring.points.back();
+    for (const Point& b : ring.points) {
+        if ((a.second > place.second) != (b.second > place.second)) {
+            const double crossing = a.first + static_cast<double>(place.second - a.second) *
+                                                  (b.first - a.first) / (b.second - a.second);
+            if (place.first < crossing) {
+                inside = !inside;
+            }
+        }
+        a = b;
+    }
+    return inside;
+}
+
+/// The numbers of the territories whose land holds a place; a ring within a ring is a hole.
+std::set<int> TerritoriesAt(Point place) {
+    std::set<int> found;
+    for (const Ring& ring : Outlines()) {
+        if (IsInside(ring, place) && !found.insert(ring.territory).second) {
+            found.erase(ring.territory);
+        }
+    }
+    return found;
+}
+
+/// The pairs of territories that have an edge in common.
+std::set<Pair> DrawnBorders() {
+    std::map<std::pair<Point, Point>, std::set<int>> owners;
+    for (const Ring& ring : Outlines()) {
+        Point a = ring.points.back();
+        for (const Point& b : ring.points) {
+            owners[std::minmax(a, b)].insert(ring.territory);
+            a = b;
+        }
+    }
+    std::set<Pair> borders;
+    for (const auto& [edge, territories] : owners) {
+        EXPECT_LE(territories.size(), 2U) << "three territories own an edge at " << edge.first.first;
+        if (territories.size() == 2) {
+            borders.emplace(*territories.begin(), *territories.rbegin());
+        }
+    }
+    return borders;
+}
+
+std::set<Pair> NeighbourPairs() {
+    std::set<Pair> pairs;
+    for (int t = 0; t < NumTerritories; ++t) {
+        for (const int other : World[static_cast<std::size_t>(t)].Neighbours) {
+            if (other < NumTerritories) {
+                pairs.insert(std::minmax({t + 1, other + 1}));
+            }
+        }
+    }
+    return pairs;
+}
+
+TEST(MapOutlines, EveryMarkerStandsOnTheLandOfItsTerritoryAlone) {
+    for (int t = 0; t < NumTerritories; ++t) {
+        const WorldEntry& entry = World[static_cast<std::size_t>(t)];
+        for (const int down : {0, 5}) {
+            EXPECT_EQ(TerritoriesAt({entry.MapX * 10, (entry.MapY + down) * 10}), std::set<int>{t + 1})
+                << entry.Name << ", " << down << " pixels below its position";
+        }
+    }
+}
+
+TEST(MapOutlines, PlacesAnswerTheirTerritoryAndTheSeaAnswersNone) {
+    const Place rows[] = {
+        {240, 129, Sea, "the North Atlantic"},
+        {290, 290, Sea, "the South Atlantic"},
+        {730, 141, Sea, "the North Pacific"},
+        {89, 289, Sea, "the South Pacific"},
+        {509, 278, Sea, "the Indian Ocean"},
+        {375, 410, Sea, "the Southern Ocean"},
+        {184, 74, Sea, "Hudson Bay"},
+        {111, 169, Sea, "the Gulf of Mexico"},
+        {379, 154, Sea, "the Mediterranean"},
+        {413, 136, Sea, "the Black Sea"},
+        {443, 138, Sea, "the Caspian Sea, which keeps Turkey and Western Russia apart"},
+        {417, 186, Sea, "the Red Sea"},
+        {526, 196, Sea, "the Bay of Bengal"},
+        {672, 326, Sea, "the Tasman Sea"},
+        {-5, 62, Sea, "left of the picture"},
+        {153, 112, 8, "Lake Superior, which is land of the territory that holds it"},
+        {144, 98, 3, "Lake Winnipeg"},
+        {533, 106, 33, "Lake Baikal"},
+        {299, 72, 5, "Iceland"},
+        {383, 37, 19, "Svalbard"},
+        {389, 105, 21, "the Russian exclave between Poland and Lithuania"},
+        {200, 216, 12, "French Guiana"},
+        {434, 276, 27, "Madagascar"},
+        {512, 212, 37, "Sri Lanka"},
+        {600, 166, 36, "Taiwan"},
+        {628, 103, 34, "Sakhalin"},
+        {606, 186, 39, "Luzon"},
+        {633, 337, 42, "Tasmania"},
+        {690, 343, 42, "New Zealand"},
+    };
+    for (const Place& row : rows) {
+        const std::set<int> expected = row.territory == Sea ? std::set<int>{} : std::set<int>{row.territory};
+        EXPECT_EQ(TerritoriesAt({row.x * 10, row.y * 10}), expected) << row.what;
+    }
+}
+
+TEST(MapOutlines, DrawnBordersAreTheNeighbourTableAndTheRestIsJoinedBySea) {
+    const std::set<Pair> joinedBySea{{1, 29},  {4, 5},   {5, 16},  {8, 11},  {10, 11}, {11, 12}, {14, 23},
+                                     {16, 18}, {17, 23}, {17, 24}, {19, 21}, {20, 24}, {22, 24}, {25, 28},
+                                     {34, 35}, {38, 39}, {39, 40}, {39, 41}, {40, 42}};
+    std::set<Pair> expected = NeighbourPairs();
+    for (const Pair& pair : joinedBySea) {
+        EXPECT_EQ(expected.erase(pair), 1U) << pair.first << " and " << pair.second << " are no neighbours";
+    }
+    EXPECT_EQ(DrawnBorders(), expected);
+}
+
+TEST(MapOutlines, LandNeverOverlapsAndLeavesTheFootOfTheMapFree) {
+    for (int y = 0; y <= LastLandRow * 10; y += 27) {
+        for (int x = 0; x < PictureWidth * 10; x += 27) {
+            EXPECT_LE(TerritoriesAt({x, y}).size(), 1U) << x << ", " << y;
+        }
+    }
+    for (const Ring& ring : Outlines()) {
+        const bool fits = std::all_of(ring.points.begin(), ring.points.end(), [](const Point& point) {
+            return point.first > 0 && point.first < PictureWidth * 10 && point.second > 0 &&
+                   point.second <= LastLandRow * 10;
+        });
+        EXPECT_TRUE(fits) << "territory " << ring.territory;
+    }
+}
+
+}  // namespace
+}  // namespace vorlund
