@@ -34,6 +34,7 @@ void DeclareWinner(GameState& game, Screens& screens, int player, const Report* 
 void NobodyWins(GameState& game, Screens& screens) {
     screens.RefreshMap();
     game.GameOver = true;
+    screens.SetCommands(CommandSet::None());
     screens.Announce("All players are dead, no one wins...");
     screens.CloseDialogs();
 }

@@ -1,0 +1,46 @@
+#include "ui/command_dialog.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "ui/frm3.h"
+#include "ui/game_screens.h"
+#include "ui/message_box.h"
+#include "ui/program.h"
+
+namespace vorlund {
+
+CommandDialog::CommandDialog(Program& program, const QString& name, const QString& title, QSize size)
+    : Screen(program.screens().board(), name, title, size, {}, Qt::Dialog), program_(program) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    PlaceOver(*this, *program.screens().board(), true);
+}
+
+void CommandDialog::Settle(const Beep&) {
+    QApplication::beep();
+}
+
+void CommandDialog::Settle(const Refusal& refusal) {
+    Exclaim(this, refusal.Message);
+}
+
+void CommandDialog::Settle(const Report& report) {
+    program_.screens().RefreshMap();
+    program_.screens().ShowActionReport(report);
+    close();
+}
+
+bool CommandDialog::CloseRequested() {
+    program_.screens().RestoreCommands();
+    return true;
+}
+
+void CommandDialog::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    Screen::keyPressEvent(event);
+}
+
+}  // namespace vorlund

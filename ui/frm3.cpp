@@ -1,0 +1,183 @@
+#include "ui/frm3.h"
+
+#include <QKeyEvent>
+#include <string>
+
+#include "ui/frmSelect.h"
+#include "ui/message_box.h"
+#include "ui/program.h"
+
+namespace vorlund {
+namespace {
+
+constexpr QSize Size(750, 525);
+constexpr int SelectionDelay = 20;  // milliseconds
+
+struct CommandPlace {
+    const char* Name;
+    const char* Caption;
+    QPoint Position;
+    char Key;
+};
+
+// In the order of Command
+constexpr std::array<CommandPlace, NumCommands> CommandBar{{{"lblBuy", "&Buy", {112, 436}, 'b'},
+                                                            {"lblSell", "&Sell", {112, 464}, 's'},
+                                                            {"lblTransport", "T&ransport", {244, 436}, 'r'},
+                                                            {"lblAttack", "&Attack", {244, 464}, 'a'},
+                                                            {"lblUpgrade", "&Upgrade", {392, 436}, 'u'},
+                                                            {"lblStatus", "S&tatus", {392, 464}, 't'},
+                                                            {"lblEndTurn", "&End Turn", {532, 436}, 'e'},
+                                                            {"lblSave", "Sa&ve", {532, 464}, 'v'}}};
+
+QString Indexed(const char* name, int index) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
+}
+
+}  // namespace
+
+frm3::frm3(Program& program)
+    : Screen(nullptr, QStringLiteral("frm3"), QStringLiteral("Vorlund"), Size, QStringLiteral("map")),
+      program_(program),
+      imgSet_{Picture(QStringLiteral("marker0")), Picture(QStringLiteral("marker1")),
+              Picture(QStringLiteral("marker2")), Picture(QStringLiteral("marker3")),
+              Picture(QStringLiteral("marker4"))},
+      imgExtraSet_{Picture(QStringLiteral("extra0")), Picture(QStringLiteral("extra1")),
+                   Picture(QStringLiteral("extra2"))},
+      gameOver_(QStringLiteral("gameover")) {
+    AddMarkers();
+    AddCommandBar();
+    imgGameOver_ = new PictureLabel(this, QStringLiteral("imgGameOver"), QRect(29, 32, 692, 381));
+    imgGameOver_->hide();
+    tmrFirst_.setSingleShot(true);
+    tmrFirst_.setInterval(SelectionDelay);
+    connect(&tmrFirst_, &QTimer::timeout, this, [this] {
+        selection_ = std::make_unique<frmSelect>(program_, *this);
+        selection_->Present();
+    });
+}
+
+frm3::~frm3() = default;
+
+void frm3::AddMarkers() {
+    for (int t = 0; t < NumTerritories; ++t) {
+        Marker marker{};
+        marker.imgCntry = new PictureLabel(this, Indexed("imgCntry", t), QRect(0, 0, 10, 10));
+        marker.imgExtra = new PictureLabel(this, Indexed("imgExtra", t), QRect(0, 0, 10, 10));
+        markers_[static_cast<std::size_t>(t)] = marker;
+    }
+    // The counts lie above all markers, so that a neighbour's marker never covers a digit.
+    for (int t = 0; t < NumTerritories; ++t) {
+        Marker& marker = markers_[static_cast<std::size_t>(t)];
+        marker.lblCntry = new CountLabel(this, Indexed("lblCntry", t), QRect(0, 0, 56, 17));
+        marker.imgCntry->hide();
+        marker.imgExtra->hide();
+        marker.lblCntry->hide();
+    }
+}
+
+void frm3::AddCommandBar() {
+    for (const Command command : AllCommands) {
+        const CommandPlace& place = CommandBar[static_cast<std::size_t>(command)];
+        CommandLabel* label = AddCommand(QString::fromLatin1(place.Name), QString::fromLatin1(place.Caption),
+                                         QRect(place.Position, QSize(90, 19)));
+        label->setFocusPolicy(Qt::TabFocus);
+        connect(label, &CommandLabel::clicked, this, [this, command] { Run(command); });
+        commands_[static_cast<std::size_t>(command)] = label;
+    }
+}
+
+void frm3::Open() {
+    const GameState& game = program_.game();
+    if (game.GameLoaded) {
+        setWindowTitle(Displayed("Vorlund - " + game.Current().Name + "'s turn"));
+        RefreshMap();
+        SetCommands(AvailableCommands(game));
+    } else {
+        SetCommands(CommandSet::None());
+        tmrFirst_.start();
+    }
+    Present();
+}
+
+void frm3::RefreshMap() {
+    const GameState& game = program_.game();
+    for (std::size_t t = 0; t < markers_.size(); ++t) {
+        RefreshTerritory(game.Territories[t], markers_[t]);
+    }
+}
+
+void frm3::RefreshTerritory(const Territory& territory, const Marker& marker) {
+    const bool built = territory.HasFactory || territory.HasDefense;
+    marker.imgCntry->setVisible(territory.Occupied);
+    marker.imgExtra->setVisible(territory.Occupied && built);
+    marker.lblCntry->setVisible(territory.Occupied);
+    if (!territory.Occupied) {
+        return;
+    }
+    const int x = territory.MapX;
+    const int y = territory.MapY;
+    marker.imgCntry->Show(&imgSet(territory.Owner));
+    marker.imgCntry->move(built ? x - 10 : x - 5, y);
+    if (built) {
+        const std::size_t both = territory.HasFactory && territory.HasDefense ? 1 : 0;
+        marker.imgExtra->Show(&imgExtraSet_[(territory.HasFactory ? 1 : 0) + both]);
+        marker.imgExtra->move(x, y);
+    }
+    marker.lblCntry->move(x - 28, y + 12);
+    marker.lblCntry->Show(std::to_string(territory.Troops) + "/" + std::to_string(territory.Tanks));
+}
+
+void frm3::SetCommands(CommandSet available) {
+    for (const Command command : AllCommands) {
+        commands_[static_cast<std::size_t>(command)]->setEnabled(available.Has(command));
+    }
+}
+
+void frm3::ShowGameOver() {
+    imgGameOver_->Show(&gameOver_);
+    imgGameOver_->raise();
+    imgGameOver_->show();
+}
+
+void frm3::CloseSelection() {
+    tmrFirst_.stop();
+    if (selection_ != nullptr) {
+        selection_->CloseOutright();
+    }
+}
+
+void frm3::Run(Command command) {
+    if (!commands_[static_cast<std::size_t>(command)]->isEnabled()) {
+        return;
+    }
+    if (command == Command::EndTurn) {
+        program_.turn().EndTurn();
+    } else {
+        program_.screens().OpenDialog(command);
+    }
+}
+
+bool frm3::CloseRequested() {
+    if (!program_.game().GameOver &&
+        !AskWithIcon(this,
+                     "Closing this game window will end the game.\rAre you sure you want to continue?")) {
+        return false;
+    }
+    program_.End();
+    return true;
+}
+
+void frm3::keyPressEvent(QKeyEvent* event) {
+    const QString typed = event->text().toLower();
+    for (const Command command : AllCommands) {
+        if (!event->isAutoRepeat() &&
+            typed == QLatin1Char(CommandBar[static_cast<std::size_t>(command)].Key)) {
+            Run(command);
+            return;
+        }
+    }
+    Screen::keyPressEvent(event);
+}
+
+}  // namespace vorlund

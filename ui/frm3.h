@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QTimer>
+#include <array>
+#include <memory>
+
+#include "state/game_state.h"
+#include "turn/commands.h"
+#include "ui/screen.h"
+
+namespace vorlund {
+
+class Program;
+class frmSelect;
+
+/// The board: the world map with every owner, building and force, and the command bar.
+class frm3 final : public Screen {
+    Q_OBJECT
+
+public:
+    explicit frm3(Program& program);
+    ~frm3() override;
+
+    /// Shows the board: a loaded game goes on at once, a new one starts with the selection of territories.
+    void Open();
+
+    /// Redraws every territory from the game.
+    void RefreshMap();
+
+    void SetCommands(CommandSet available);
+    void ShowGameOver();
+
+    /// Closes the selection screen outright, if it is open.
+    void CloseSelection();
+
+    /// The marker of player index `player`.
+    const Picture& imgSet(int player) const { return imgSet_[static_cast<std::size_t>(player)]; }
+
+protected:
+    bool CloseRequested() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Marker {
+        PictureLabel* imgCntry;
+        PictureLabel* imgExtra;
+        CountLabel* lblCntry;
+    };
+
+    void AddMarkers();
+    void AddCommandBar();
+    void RefreshTerritory(const Territory& territory, const Marker& marker);
+    void Run(Command command);
+
+    Program& program_;
+    std::array<Picture, MaxPlayers> imgSet_;
+    std::array<Picture, 3> imgExtraSet_;
+    Picture gameOver_;
+    std::array<Marker, NumTerritories> markers_{};
+    std::array<CommandLabel*, NumCommands> commands_{};
+    PictureLabel* imgGameOver_;
+    QTimer tmrFirst_;
+    std::unique_ptr<frmSelect> selection_;
+};
+
+}  // namespace vorlund

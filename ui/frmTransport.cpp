@@ -1,0 +1,44 @@
+#include "ui/frmTransport.h"
+
+#include "ui/program.h"
+
+namespace vorlund {
+
+frmTransport::frmTransport(Program& program)
+    : CommandDialog(program, QStringLiteral("frmTransport"), QStringLiteral("Vorlund - Transport"),
+                    QSize(391, 110)) {
+    AddText(QStringLiteral("lbl1"), Face::Heading, QRect(8, 5, 124, 19), "Move Tanks/Troops:");
+    lblA_ =
+        AddText(QStringLiteral("lblA"), Face::Status, QRect(134, 5, 251, 19), MovesLeftText(program.game()));
+    AddText(QStringLiteral("lbl3"), Face::Caption, QRect(10, 40, 112, 19), "Original territory #:");
+    txtC1_ = AddField(QStringLiteral("txtC1"), QPoint(124, 40), 2);
+    AddText(QStringLiteral("Label1"), Face::Caption, QRect(10, 72, 112, 19), "Resulting territory #:");
+    txtC2_ = AddField(QStringLiteral("txtC2"), QPoint(124, 72), 2);
+    AddText(QStringLiteral("lbl4"), Face::Caption, QRect(178, 40, 100, 19), "Number of Troops:");
+    txtTroops_ = AddField(QStringLiteral("txtTroops"), QPoint(280, 40), 3);
+    AddText(QStringLiteral("lbl5"), Face::Caption, QRect(178, 72, 100, 19), "Number of Tanks:");
+    txtTanks_ = AddField(QStringLiteral("txtTanks"), QPoint(280, 72), 3);
+    lblGo_ = AddCommand(QStringLiteral("lblGo"), QStringLiteral("Move"), QRect(328, 56, 48, 19));
+    lblGo_->setEnabled(CanMove(program.game()));
+    connect(lblGo_, &CommandLabel::clicked, this, &frmTransport::Move);
+    for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
+        connect(field, &Field::Entered, this, &frmTransport::Move);
+    }
+    txtC1_->setFocus();
+}
+
+void frmTransport::Move() {
+    const TransportEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+    std::visit([this](const auto& outcome) { Settle(outcome); },
+               Tran(program().game(), lblGo_->isEnabled(), entries));
+}
+
+void frmTransport::Settle(const Moved& moved) {
+    program().screens().RefreshMap();
+    lblA_->Show(moved.StatusLine);
+    txtTroops_->clear();
+    txtTanks_->clear();
+    lblGo_->setEnabled(CanMove(program().game()));
+}
+
+}  // namespace vorlund

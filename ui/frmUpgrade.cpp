@@ -1,0 +1,76 @@
+#include "ui/frmUpgrade.h"
+
+#include "actions/buy.h"
+#include "ui/program.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int Width = 258;
+
+QString Numbered(const char* stem, int number) {
+    return QString::fromLatin1(stem) + QString::number(number);
+}
+
+}  // namespace
+
+frmUpgrade::frmUpgrade(Program& program)
+    : CommandDialog(program, QStringLiteral("frmUpgrade"), QStringLiteral("Vorlund - Upgrade"),
+                    QSize(Width, 277)) {
+    lblTop_ = AddText(QStringLiteral("lblTop"), Face::Status, QRect(8, 4, Width - 16, 34));
+    AddLine(QStringLiteral("Line1"), QPoint(12, 41), Width - 24);
+    AddTrack(Track::Economy, 1, 46);
+    AddLine(QStringLiteral("Line2"), QPoint(12, 83), Width - 24);
+    AddTrack(Track::Warfare, 2, 88);
+    AddLine(QStringLiteral("Line3"), QPoint(12, 125), Width - 24);
+    AddTrack(Track::Nuclear, 3, 130);
+    AddLine(QStringLiteral("Line6"), QPoint(12, 167), Width - 24);
+    AddConstruction(1, 177, "Label7", "txtC1", QStringLiteral("Build Factory"), "$180", &Fact);
+    AddConstruction(2, 227, "Label1", "txtC2", QStringLiteral("Build Defense"), "$100", &Def);
+    fields_[0]->setFocus();
+    Update({});
+}
+
+void frmUpgrade::AddTrack(Track track, int number, int y) {
+    TrackRow row{track, AddText(Numbered("lbl", number), Face::Caption, QRect(12, y, 144, 32)),
+                 AddCommand(Numbered("lblGo", number), QStringLiteral("Upgrade"), QRect(164, y + 6, 78, 19))};
+    connect(row.Go, &CommandLabel::clicked, this, [this, track] {
+        std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(program().game(), track));
+    });
+    tracks_[static_cast<std::size_t>(number - 1)] = row;
+}
+
+void frmUpgrade::AddConstruction(int number, int y, const char* captionName, const char* fieldName,
+                                 const QString& command, const char* price,
+                                 std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view)) {
+    AddText(QString::fromLatin1(captionName), Face::Caption, QRect(12, y, 62, 19), "Territory #:");
+    Field* field = AddField(QString::fromLatin1(fieldName), QPoint(76, y), 2);
+    CommandLabel* go = AddCommand(Numbered("lblGo", number + 3), command, QRect(124, y, 118, 19));
+    AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), price)
+        ->setAlignment(Qt::AlignCenter);
+    const auto run = [this, field, build] {
+        std::visit([this](const auto& outcome) { Settle(outcome); }, build(program().game(), field->Typed()));
+    };
+    connect(go, &CommandLabel::clicked, this, run);
+    connect(field, &Field::Entered, this, run);
+    fields_[static_cast<std::size_t>(number - 1)] = field;
+}
+
+void frmUpgrade::Update(const std::string& message) {
+    for (Field* field : fields_) {
+        field->clear();
+    }
+    lblTop_->Show(message + MoneyLine(program().game()));
+    for (const TrackRow& row : tracks_) {
+        const TrackStatus status = StatusOf(program().game(), row.Which);
+        row.Status->Show(status.Text);
+        row.Go->setEnabled(status.CanRise);
+    }
+}
+
+void frmUpgrade::Settle(const Purchase& purchase) {
+    Update(purchase.Message);
+    program().screens().RefreshMap();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPixmap>
+#include <QString>
+#include <string_view>
+
+namespace vorlund {
+
+/// The faces in which the game writes, sizes in pixels at 96 dots per inch.
+enum class Face { Caption, Status, Heading, Command, Field, Count };
+
+namespace colour {
+inline constexpr QRgb Rest = qRgb(0, 0, 192);         ///< a command at rest
+inline constexpr QRgb Hover = qRgb(128, 128, 255);    ///< the pointer is over it
+inline constexpr QRgb Pressed = qRgb(192, 192, 255);  ///< a mouse button went down on it
+inline constexpr QRgb Caption = qRgb(255, 255, 255);
+inline constexpr QRgb Status = qRgb(0, 128, 128);
+inline constexpr QRgb Heading = qRgb(0, 255, 0);
+inline constexpr QRgb Window = qRgb(0, 0, 0);
+}  // namespace colour
+
+QFont FontOf(Face face);
+
+/// The colour in which labels of this face are written.
+QColor ColourOf(Face face);
+
+/// `font`, made narrower and then smaller as far as needed for each line of `text` to fit `width` pixels.
+/// Texts are laid out for one family of fonts and are read with whatever fonts a machine has.
+QFont Fitted(QFont font, const QString& text, int width);
+
+/// A text of the rules as the screens draw it: their single carriage returns become line ends of the
+/// toolkit's.
+QString Displayed(std::string_view text);
+
+/// The picture of the program called `name`, sharp at a device pixel ratio of `ratio`.
+QPixmap LoadPicture(const QString& name, qreal ratio);
+
+}  // namespace vorlund

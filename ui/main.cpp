@@ -1,0 +1,27 @@
+#include <QApplication>
+#include <QStandardPaths>
+
+#include "ui/held_keys.h"
+#include "ui/program.h"
+#include "ui/single_copy.h"
+
+int main(int, char** arguments) {
+    // The game has no command line, so the toolkit gets none either.
+    int count = 1;
+    char* name[] = {arguments[0], nullptr};
+    const QApplication application(count, name);
+    QApplication::setApplicationName(QStringLiteral("vorlund"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const vorlund::SingleCopy copy;
+    if (copy.OtherIsRunning()) {
+        return 0;
+    }
+    vorlund::HeldKeys heldKeys;
+    qApp->installEventFilter(&heldKeys);
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(),
+                             vorlund::SavedGamesFolder((data + QStringLiteral("/vorlund")).toStdString()));
+    program.Start();
+    return QApplication::exec();
+}

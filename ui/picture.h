@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLabel>
+#include <QPixmap>
+#include <QString>
+
+namespace vorlund {
+
+/// A picture of the program that is decoded once, when it is first painted, and again only if the device
+/// pixel ratio changes.
+class Picture {
+public:
+    explicit Picture(QString name) : name_(std::move(name)) {}
+
+    const QPixmap& At(qreal ratio) const;
+
+private:
+    QString name_;
+    mutable QPixmap pixmap_;
+    mutable qreal ratio_ = 0;
+};
+
+/// A place on a screen that shows a picture unscaled, cut to its frame.
+class PictureLabel : public QLabel {
+public:
+    PictureLabel(QWidget* parent, const QString& objectName, const QRect& frame);
+
+    /// `picture` must outlive the label, or null shows nothing.
+    void Show(const Picture* picture);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const Picture* picture_ = nullptr;
+};
+
+}  // namespace vorlund

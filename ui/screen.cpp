@@ -1,0 +1,136 @@
+#include "ui/screen.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+
+namespace vorlund {
+namespace {
+
+constexpr int FieldHeight = 19;
+
+constexpr auto FixedSizeWindow = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+
+}  // namespace
+
+Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize size,
+               const QString& background, Qt::WindowFlags flags)
+    : QWidget(owner, flags.testFlag(Qt::FramelessWindowHint) ? flags : flags | FixedSizeWindow),
+      background_(background.isEmpty() ? name : background) {
+    setObjectName(name);
+    setWindowTitle(title);
+    setFixedSize(size);
+    setMouseTracking(true);
+    QPalette black = palette();
+    black.setColor(QPalette::Window, colour::Window);
+    setPalette(black);
+}
+
+void Screen::CloseOutright() {
+    outright_ = true;
+    close();
+    outright_ = false;
+}
+
+void Screen::Present() {
+    if (!placed_ && parentWidget() == nullptr && screen() != nullptr) {
+        QRect place(QPoint(0, 0), size());
+        place.moveCenter(screen()->availableGeometry().center());
+        move(place.topLeft());
+    }
+    placed_ = true;
+    show();
+    raise();
+    activateWindow();
+}
+
+TextLabel* Screen::AddText(const QString& name, Face face, const QRect& frame, std::string_view text) {
+    auto* label = new TextLabel(this, name, face, frame);
+    label->Show(text);
+    return label;
+}
+
+Field* Screen::AddField(const QString& name, QPoint position, int maxLength, int width) {
+    return new Field(this, name, QRect(position, QSize(width, FieldHeight)), maxLength);
+}
+
+CommandLabel* Screen::AddCommand(const QString& name, const QString& caption, const QRect& box) {
+    auto* command = new CommandLabel(this, name, caption, box);
+    commands_.push_back(command);
+    connect(command, &CommandLabel::Lit, this, [this, command] {
+        if (oneAtATime_) {
+            RestCommands(command);
+        }
+    });
+    return command;
+}
+
+void Screen::AddLine(const QString& name, QPoint from, int length) {
+    auto* line = new QFrame(this);
+    line->setObjectName(name);
+    line->setGeometry(QRect(from, QSize(length, 1)));
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    QPalette ink = line->palette();
+    ink.setColor(QPalette::WindowText, QColor(96, 112, 140));
+    line->setPalette(ink);
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Screen::closeEvent(QCloseEvent* event) {
+    // A box that waits for its answer comes first, whoever asks.
+    const bool boxIsUp = QApplication::activeModalWidget() != nullptr;
+    event->setAccepted(outright_ || (!boxIsUp && CloseRequested()));
+}
+
+void Screen::mouseMoveEvent(QMouseEvent* event) {
+    RestCommands();
+    QWidget::mouseMoveEvent(event);
+}
+
+void Screen::leaveEvent(QEvent* event) {
+    RestCommands();
+    QWidget::leaveEvent(event);
+}
+
+void Screen::RestCommands(const CommandLabel* except) {
+    for (CommandLabel* command : commands_) {
+        if (command != except) {
+            command->Rest();
+        }
+    }
+}
+
+void Screen::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), QColor(colour::Window));
+    painter.setClipRegion(event->region());
+    painter.drawPixmap(0, 0, background_.At(devicePixelRatioF()));
+}
+
+void PlaceOver(QWidget& window, const QWidget& owner, bool low) {
+    constexpr int gap = 8;
+    const QRect under = owner.geometry();
+    QRect place(QPoint(0, 0), window.size());
+    place.moveCenter(under.center());
+    if (low) {
+        place.moveBottom(under.bottom() - gap);
+    }
+    // A window is moved by its frame, whose title bar will be as high as the owner's.
+    place.translate(0, owner.frameGeometry().top() - under.top());
+    if (const QScreen* screen = owner.screen(); screen != nullptr) {
+        const QRect room = screen->availableGeometry();
+        place.moveLeft(
+            std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
+        place.moveTop(
+            std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
+    }
+    window.move(place.topLeft());
+}
+
+}  // namespace vorlund
