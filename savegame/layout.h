@@ -71,11 +71,12 @@ bool VisitGame(Game& game, Visitor& visitor) {
         return false;
     }
     for (int p = 0; p < game.NumPlayers; ++p) {
-        if (!VisitPlayer(game.PlayerAt(p), PlayerWords(p), visitor)) {
+        const std::string whose = PlayerWords(p);
+        if (!VisitPlayer(game.PlayerAt(p), whose, visitor)) {
             return false;
         }
         for (std::size_t t = 0; t < NumTerritories; ++t) {
-            if (!visitor.Boolean(game.PlayerAt(p).Owns[t], "Owns", PlayerWords(p))) {
+            if (!visitor.Boolean(game.PlayerAt(p).Owns[t], "Owns", whose)) {
                 return false;
             }
         }
