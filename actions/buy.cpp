@@ -22,7 +22,7 @@ std::optional<std::int16_t> PriceOf(const TradeOrder& order) {
 // Where units of this kind would go, or why they cannot.
 std::variant<Refusal, int> Placement(const GameState& game, const UnitKind& kind,
                                      const TradeEntries& entries) {
-    const auto choice = UnitTerritory(Buying, kind, entries);
+    auto choice = UnitTerritory(Buying, kind, entries);
     if (const int* t = std::get_if<int>(&choice);
         t != nullptr && !(Owns(game, game.CurrentPlayer, *t) && game.TerritoryAt(*t).HasFactory)) {
         return Refusal{std::string("To buy ") + kind.Name +

@@ -11,7 +11,7 @@ constexpr TradeTerms Selling{"sell", "sold", -1, 7, 30};
 // Where units of this kind would come from, or why they cannot.
 std::variant<Refusal, int> SourceOf(const GameState& game, const UnitKind& kind, const TradeEntries& entries,
                                     int amount) {
-    const auto choice = UnitTerritory(Selling, kind, entries);
+    auto choice = UnitTerritory(Selling, kind, entries);
     const int* t = std::get_if<int>(&choice);
     if (t == nullptr) {
         return choice;

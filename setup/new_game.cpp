@@ -33,11 +33,11 @@ bool MeansComputer(std::string name) {
 
 std::optional<NamesRefusal> EnterNames(GameState& game, std::span<const std::string> names) {
     const auto isMissing = [](const std::string& name) { return name.empty(); };
-    if (const auto refusal = RefuseRows(names, isMissing, "Enter a name for Player ", ".")) {
+    if (auto refusal = RefuseRows(names, isMissing, "Enter a name for Player ", ".")) {
         return refusal;
     }
     const auto isLostOnSaving = [](const std::string& name) { return !NameReadsBack(name); };
-    if (const auto refusal =
+    if (auto refusal =
             RefuseRows(names, isLostOnSaving, "Player ", "'s name cannot be saved; enter another.")) {
         return refusal;
     }

@@ -136,6 +136,7 @@ TEST(Buy, RefusesInItsOwnOrder) {
         {"troops beyond 16 bits", {"7", "4e4", "", ""}, NoTransaction},
         {"troops beyond 16 bits, and no factory", {"8", "4e4", "", ""}, noTroops},
         {"a price beyond 16 bits", {"7", "", "999", ""}, NoTransaction},
+        {"a price that would wrap round", {"7", "", "2e3", ""}, NoTransaction},
         {"a price just within 16 bits", {"7", "", "819", ""}, tooDear + "32260" + more},
         {"ten dollars short", {"7", "4", "", ""}, tooDear + "10" + more, 30},
         {"short by more than 16 bits", {"7", "", "819", ""}, tooDear + "33260" + more, -500},
@@ -202,9 +203,9 @@ TEST(Buy, RefusesWholeWhatAFieldCannotHold) {
 
 TEST(Sell, OfOilAloneGivesUpNoTerritory) {
     GameState game = Market();
-    game.Territories[6].Troops = game.Territories[6].Tanks = 0;
-    EXPECT_TRUE(std::holds_alternative<Report>(Sell(game, {"7", "", "", "3"})));
-    EXPECT_EQ(game.Territories[6].Owner, 0);
+    Claim(game, 0, 0);
+    EXPECT_TRUE(std::holds_alternative<Report>(Sell(game, {"1", "", "", "3"})));
+    EXPECT_EQ(game.Territories[0].Owner, 0);
 }
 
 TEST(Sell, GivesUpATerritoryLeftEmpty) {

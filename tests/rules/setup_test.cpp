@@ -106,8 +106,8 @@ TEST(Selection, TheFirstSelectorIsAlwaysHuman) {
 TEST(Selection, HumansSelectInTurnThenComputersAwayFromEverybody) {
     GameState game = Table({"Anna", "comp", "Carl", "comp"});
     game.Players[0].Oil = 7;  // left over
-    // The computers pass by a taken territory, the neighbours of a human's and those of each other's.
-    ScriptedRandom random({For(2, 4), For(6, 42), For(8, 42), For(34, 42), For(33, 42), For(0, 42)});
+    // The computers pass by a taken territory, a neighbour of a human's and one of each other's.
+    ScriptedRandom random({For(2, 4), For(34, 42), For(8, 42), For(26, 42), For(25, 42), For(0, 42)});
     Selection selection(game, random);
     EXPECT_EQ(selection.Open(), "Player 3, Carl, has been chosen to select first.");
     EXPECT_EQ(selection.Entr("7"),
@@ -115,11 +115,11 @@ TEST(Selection, HumansSelectInTurnThenComputersAwayFromEverybody) {
                                "Player 3 selected Midwest USA\rPlayer 1, Anna, select a territory."}));
     EXPECT_EQ(game.CurrentPlayer, 0);
     EXPECT_EQ(random.Reseedings, 3);  // the computer in between was looked at too
-    EXPECT_EQ(selection.Entr(" 8 "), (Selection::Step{Kind::Ended, "Player 1 selected Eastern USA\r"}));
+    EXPECT_EQ(selection.Entr(" 35 "), (Selection::Step{Kind::Ended, "Player 1 selected Japan\r"}));
     EXPECT_EQ(game.CurrentPlayer, 2);
     EXPECT_EQ(random.Reseedings, 4);
 
-    const std::vector<int> places{7, 34, 6, 0};
+    const std::vector<int> places{34, 26, 6, 0};
     for (int p = 0; p < 4; ++p) {
         const Territory& territory = game.TerritoryAt(places[static_cast<std::size_t>(p)]);
         EXPECT_EQ(territory.Owner, p);
