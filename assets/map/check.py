@@ -55,8 +55,9 @@ def misplaced_land(land):
     return faults
 
 
-def wrong_borders(land, arcs, warp):
-    drawn = {pair for pair in arcs if pair[0]}
+def wrong_borders(land, warp):
+    drawn = {(a, b) for a in land for b in land
+             if a < b and land[a].intersects(land[b]) and land[a].intersection(land[b]).length > 0}
     joined = {pair for pair, *_ in drawing.routes(land, warp)}
     faults = ['%d and %d touch but are no neighbours' % pair for pair in drawn - PAIRS]
     faults += ['a sea route joins %d and %d, which have a border or are no neighbours' % pair
@@ -126,7 +127,7 @@ def pale_ground(image):
     return faults
 
 
-def run(land, arcs, warp, image):
+def run(land, warp, image):
     """Every fault found, in words; image is the printed map."""
-    return (folds(warp) + misplaced_land(land) + wrong_borders(land, arcs, warp) + covered_signs()
+    return (folds(warp) + misplaced_land(land) + wrong_borders(land, warp) + covered_signs()
             + lost_signs(land) + hidden_routes(land, warp) + pale_ground(image))

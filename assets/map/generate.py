@@ -24,7 +24,7 @@ def main():
     for name, scale in (('map.png', 1), ('map@2x.png', 2)):
         image = printer.picture(scale)
         image.save(picture.PICTURES / name, optimize=True)
-    faults = check.run(land, arcs, warp, image)
+    faults = check.run(land, warp, image)
     for fault in faults:
         print('wrong:', fault)
     return 1 if faults else 0

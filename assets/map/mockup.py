@@ -1,3 +1,4 @@
+#!/usr/bin/python3 -B
 """Lays a full board of five players over the map as the program does, to look at: markers, icons, the longest
 counts, command plates. Writes mockup.png and mockup@2x.png into the folder given."""
 import pathlib

@@ -54,14 +54,14 @@ def hillshade(height, steepness):
 def land_shade(warp):
     """Factor for the colour of the land."""
     rough = noise(7, 9)
-    ridged = 1 - np.abs(noise(8, 13, 3)) * 1.5
+    ridged = 1 - np.abs(noise(8, 9, 3)) * 1.6
     mountains = np.zeros(SHAPE)
     for width, crests in CRESTS.items():
         away = distance_to(crests, warp) * (1 + .35 * rough)
         mountains = np.maximum(mountains, width * .36 * np.exp(-(away / width)**2))
-    height = mountains * (.35 + .65 * ridged) + .22 * rough + .5 * noise(9, 40, 2)
-    shade = hillshade(ndimage.gaussian_filter(height, .55 * GRID), .62)
-    return 1 + .36 * np.clip(shade, -.75, .75) + .010 * np.minimum(mountains, 3)
+    height = mountains * (.3 + .8 * ridged) + .2 * rough + .5 * noise(9, 40, 2)
+    shade = hillshade(ndimage.gaussian_filter(height, .42 * GRID), .7)
+    return 1 + .40 * np.clip(shade, -.7, .7) + .012 * np.minimum(mountains, 3)
 
 
 def sea_colour(land, warp):
