@@ -59,6 +59,9 @@ std::string_view WithoutBlanksAround(std::string_view text) {
 
 std::optional<int> ReadInteger(std::string_view line) {
     line = WithoutBlanksAround(line);
+    if (line.find_first_not_of("0123456789+-") != std::string_view::npos) {
+        return std::nullopt;  // from_chars is only sure of itself with ASCII
+    }
     if (line.starts_with('+') && !line.starts_with("+-")) {
         line.remove_prefix(1);
     }

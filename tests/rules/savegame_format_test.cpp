@@ -214,6 +214,7 @@ TEST(ReadGame, RefusesABadFileWithItsLine) {
         {8, "+-5", 8, "Money of Player 1 " + int16},
         {8, "1 2", 8, "Money of Player 1 " + int16},
         {8, "\t5", 8, "Money of Player 1 " + int16},
+        {8, "5\xD0", 8, "Money of Player 1 " + int16},
         {9, "-1 ", 9, "MovesLeft of Player 1 must be a whole number from 0 to 2."},
         {10, "", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
         {10, "abcdefghijklm", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
