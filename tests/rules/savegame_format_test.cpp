@@ -190,57 +190,58 @@ TEST(ReadGame, IsPatientWithLineEndsAndWhatFollows) {
     EXPECT_EQ(std::get<BadFile>(ReadGame(FreshGame(), late)).Line, 1);
 }
 
+struct BadLine {
+    int line;  // of the two-player sample, where `value` is put
+    std::string value;
+    int badLine;
+    std::string what;
+};
+const std::string NotInt16 = "must be a whole number from -32768 to 32767.";
+const std::vector<BadLine> BadLines{
+    {1, " 1 ", 1, "NumPlayers of the game must be a whole number from 2 to 5."},
+    {1, " 6 ", 1, "NumPlayers of the game must be a whole number from 2 to 5."},
+    {1, "", 1, "NumPlayers of the game must be a whole number from 2 to 5."},
+    {2, " 3 ", 2, "AttacksLeft of Player 1 must be a whole number from 0 to 2."},
+    {3, "Yes", 3, "IsDead of Player 1 must be True or False."},
+    {3, "True", 3, "Player 1 owns territories and must be alive."},
+    {4, "-1 ", 4, "DebtTurns of Player 1 must be a whole number from 0 to 32767."},
+    {5, " 4 ", 5, "EconomyLevel of Player 1 must be a whole number from 0 to 3."},
+    {7, "", 7, "FirstTurn of Player 1 must be True or False."},
+    {8, " 32768 ", 8, "Money of Player 1 " + NotInt16},
+    {8, "99999999999", 8, "Money of Player 1 " + NotInt16},
+    {8, "2.5", 8, "Money of Player 1 " + NotInt16},
+    {8, "+-5", 8, "Money of Player 1 " + NotInt16},
+    {8, "1 2", 8, "Money of Player 1 " + NotInt16},
+    {8, "\t5", 8, "Money of Player 1 " + NotInt16},
+    {8, "5\xD0", 8, "Money of Player 1 " + NotInt16},
+    {9, "-1 ", 9, "MovesLeft of Player 1 must be a whole number from 0 to 2."},
+    {10, "", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
+    {10, "abcdefghijklm", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
+    {10, "a\tb", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
+    {10, "\"Anna", 10, "Name of Player 1 must be closed by a double quote, as it starts with one."},
+    {68, " , 3", 68, "Name of Player 2 must be 1 to 12 characters that can be shown."},
+    {17, "True", 371 - 1, "CurrentPlayer of the game must be a living human player."},
+    {18, "False", 18, "Player 1's Owns and the Owner of Alaskan Territory do not agree."},
+    {25, "True", 25, "Player 1's Owns and the Owner of Eastern USA do not agree."},
+    {118, "nan", 118, "HasDefense of Alaskan Territory must be True or False."},
+    {120, "False", 120, "Alaskan Territory must be Occupied when it has an Owner, and only then."},
+    {121, " 9 ", 120, "Alaskan Territory must be Occupied when it has an Owner, and only then."},
+    {121, " 2 ", 121, "Owner of Alaskan Territory must be a player of this game, or 9 for nobody."},
+    {121, " 1 ", 18, "Player 1's Owns and the Owner of Alaskan Territory do not agree."},
+    {121, "10", 121, "Owner of Alaskan Territory must be a whole number from 0 to 9."},
+    {122, "-1 ", 122, "Tanks of Alaskan Territory must be a whole number from 0 to 32767."},
+    {130, "True", 130, "Montreal Territory belongs to nobody, so nothing can stand in it."},
+    {131, "True", 131, "Montreal Territory belongs to nobody, so nothing can stand in it."},
+    {134, " 1 ", 134, "Montreal Territory belongs to nobody, so nothing can stand in it."},
+    {135, " 1 ", 135, "Montreal Territory belongs to nobody, so nothing can stand in it."},
+    {370, " 2 ", 370, "CurrentPlayer of the game must be a whole number from 0 to 1."},
+    {370, " 1 ", 370, "CurrentPlayer of the game must be a living human player."},
+    {371, " 1 ", 371, "DeadPlayers of the game must be 0."},
+};
+
 TEST(ReadGame, RefusesABadFileWithItsLine) {
-    struct Row {
-        int line;  // of the two-player sample, where `value` is put
-        std::string value;
-        int badLine;
-        std::string what;
-    };
-    const std::string int16 = "must be a whole number from -32768 to 32767.";
-    const std::vector<Row> rows{
-        {1, " 1 ", 1, "NumPlayers of the game must be a whole number from 2 to 5."},
-        {1, " 6 ", 1, "NumPlayers of the game must be a whole number from 2 to 5."},
-        {1, "", 1, "NumPlayers of the game must be a whole number from 2 to 5."},
-        {2, " 3 ", 2, "AttacksLeft of Player 1 must be a whole number from 0 to 2."},
-        {3, "Yes", 3, "IsDead of Player 1 must be True or False."},
-        {3, "True", 3, "Player 1 owns territories and must be alive."},
-        {4, "-1 ", 4, "DebtTurns of Player 1 must be a whole number from 0 to 32767."},
-        {5, " 4 ", 5, "EconomyLevel of Player 1 must be a whole number from 0 to 3."},
-        {7, "", 7, "FirstTurn of Player 1 must be True or False."},
-        {8, " 32768 ", 8, "Money of Player 1 " + int16},
-        {8, "99999999999", 8, "Money of Player 1 " + int16},
-        {8, "2.5", 8, "Money of Player 1 " + int16},
-        {8, "+-5", 8, "Money of Player 1 " + int16},
-        {8, "1 2", 8, "Money of Player 1 " + int16},
-        {8, "\t5", 8, "Money of Player 1 " + int16},
-        {8, "5\xD0", 8, "Money of Player 1 " + int16},
-        {9, "-1 ", 9, "MovesLeft of Player 1 must be a whole number from 0 to 2."},
-        {10, "", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
-        {10, "abcdefghijklm", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
-        {10, "a\tb", 10, "Name of Player 1 must be 1 to 12 characters that can be shown."},
-        {10, "\"Anna", 10, "Name of Player 1 must be closed by a double quote, as it starts with one."},
-        {68, " , 3", 68, "Name of Player 2 must be 1 to 12 characters that can be shown."},
-        {17, "True", 371 - 1, "CurrentPlayer of the game must be a living human player."},
-        {18, "False", 18, "Player 1's Owns and the Owner of Alaskan Territory do not agree."},
-        {25, "True", 25, "Player 1's Owns and the Owner of Eastern USA do not agree."},
-        {118, "nan", 118, "HasDefense of Alaskan Territory must be True or False."},
-        {120, "False", 120, "Alaskan Territory must be Occupied when it has an Owner, and only then."},
-        {121, " 9 ", 120, "Alaskan Territory must be Occupied when it has an Owner, and only then."},
-        {121, " 2 ", 121, "Owner of Alaskan Territory must be a player of this game, or 9 for nobody."},
-        {121, " 1 ", 18, "Player 1's Owns and the Owner of Alaskan Territory do not agree."},
-        {121, "10", 121, "Owner of Alaskan Territory must be a whole number from 0 to 9."},
-        {122, "-1 ", 122, "Tanks of Alaskan Territory must be a whole number from 0 to 32767."},
-        {130, "True", 130, "Montreal Territory belongs to nobody, so nothing can stand in it."},
-        {131, "True", 131, "Montreal Territory belongs to nobody, so nothing can stand in it."},
-        {134, " 1 ", 134, "Montreal Territory belongs to nobody, so nothing can stand in it."},
-        {135, " 1 ", 135, "Montreal Territory belongs to nobody, so nothing can stand in it."},
-        {370, " 2 ", 370, "CurrentPlayer of the game must be a whole number from 0 to 1."},
-        {370, " 1 ", 370, "CurrentPlayer of the game must be a living human player."},
-        {371, " 1 ", 371, "DeadPlayers of the game must be 0."},
-    };
     const GameState game = SampleGame(2);
-    for (const Row& row : rows) {
+    for (const BadLine& row : BadLines) {
         const auto result = ReadGame(FreshGame(), WithLine(game, row.line, row.value));
         const auto* const bad = std::get_if<BadFile>(&result);
         const std::string put = std::to_string(row.line) + ": " + row.value;
