@@ -30,4 +30,15 @@ CommandSet AvailableCommands(const GameState& game) {
     return game.Current().FirstTurn ? CommandSet::All().Without(Command::Attack) : CommandSet::All();
 }
 
+std::string WhyUnavailable(const GameState& game, Command command) {
+    if (AvailableCommands(game).Has(command)) {
+        return {};
+    }
+    if (game.GameOver || game.DeadPlayers == game.NumPlayers) {
+        return "The game is over.";
+    }
+    return game.Current().IsDead ? "You are dead and can only end your turn."
+                                 : "Nobody attacks in their first turn.";
+}
+
 }  // namespace vorlund

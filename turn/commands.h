@@ -2,6 +2,7 @@
 
 #include <array>
 #include <bitset>
+#include <string>
 
 #include "state/game_state.h"
 
@@ -36,5 +37,8 @@ private:
 /// none once the game is over or nobody lives, End Turn alone for a dead player, and otherwise all, Attack
 /// only after the player's first turn. This is the one place that decides it.
 CommandSet AvailableCommands(const GameState& game);
+
+/// Why AvailableCommands leaves `command` out, as a sentence for the player; empty when it does not.
+std::string WhyUnavailable(const GameState& game, Command command);
 
 }  // namespace vorlund

@@ -13,7 +13,7 @@ namespace vorlund {
 CommandDialog::CommandDialog(Program& program, const QString& name, const QString& title, QSize size)
     : Screen(program.screens().board(), name, title, size, {}, Qt::Dialog), program_(program) {
     setAttribute(Qt::WA_DeleteOnClose);
-    PlaceOver(*this, *program.screens().board(), true);
+    PlaceOver(*this, *program.screens().board(), frm3::DialogBottom);
 }
 
 void CommandDialog::Settle(const Beep&) {
@@ -28,6 +28,13 @@ void CommandDialog::Settle(const Report& report) {
     program_.screens().RefreshMap();
     program_.screens().ShowActionReport(report);
     close();
+}
+
+void CommandDialog::TakeTerritories(std::initializer_list<Field*> fields) {
+    for (auto field = fields.begin(); field != fields.end(); ++field) {
+        (*field)->TakeTerritories(field + 1 == fields.end() ? nullptr : *(field + 1));
+        program_.screens().board()->TypeInto(**field);
+    }
 }
 
 bool CommandDialog::CloseRequested() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <initializer_list>
+
 #include "actions/outcome.h"
 #include "turn/report.h"
 #include "ui/screen.h"
@@ -24,6 +26,9 @@ protected:
     void Settle(const Beep& beep);
     void Settle(const Refusal& refusal);
     void Settle(const Report& report);
+
+    /// Lets a click on the map type into these fields for territories, which belong to one command.
+    void TakeTerritories(std::initializer_list<Field*> fields);
 
     bool CloseRequested() override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -30,6 +30,11 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
     setFont(Fitted(FontOf(Face::Command), caption, box.width()));
 }
 
+void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
+    setEnabled(available);
+    setToolTip(available ? QString() : whyNot);
+}
+
 void CommandLabel::Rest() {
     Become(State::Rest);
 }

@@ -21,6 +21,9 @@ public:
     /// underlined.
     CommandLabel(QWidget* parent, const QString& objectName, const QString& caption, const QRect& box);
 
+    /// Enables the command, or disables it for the reason that its tooltip then gives.
+    void SetAvailable(bool available, const QString& whyNot);
+
     /// Puts the command back to its colour at rest.
     void Rest();
 

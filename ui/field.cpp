@@ -22,6 +22,24 @@ Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int
     setPalette(colours);
 }
 
+void Field::TakeTerritories(Field* next) {
+    takesTerritories_ = true;
+    next_ = next;
+}
+
+void Field::TypeTerritory(int number) {
+    setText(QString::number(number));
+    window()->activateWindow();
+    (next_ != nullptr ? next_ : this)->setFocus();
+}
+
+void Field::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (takesTerritories_) {
+        emit TerritoryWanted();
+    }
+}
+
 void Field::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (!event->isAutoRepeat()) {

@@ -14,14 +14,29 @@ class Field : public QLineEdit {
 public:
     Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength);
 
+    /// Makes this a field for a territory's number, which a click on the map can type as well. `next` is the
+    /// field for the other territory of the same command, if there is one.
+    void TakeTerritories(Field* next = nullptr);
+
+    /// Types the number of a territory that was clicked, and moves the keyboard on to the next territory.
+    void TypeTerritory(int number);
+
     /// What has been typed, as UTF-8.
     std::string Typed() const { return text().toStdString(); }
 
 signals:
     void Entered();
 
+    /// This field for a territory's number has got the keyboard.
+    void TerritoryWanted();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    bool takesTerritories_ = false;
+    Field* next_ = nullptr;
 };
 
 }  // namespace vorlund

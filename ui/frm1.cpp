@@ -26,6 +26,7 @@ frm1::frm1(Program& program)
       earth_(QStringLiteral("earth")) {
     auto* imgEarth = new PictureLabel(this, QStringLiteral("imgEarth"), QRect(96, 16, 208, 100));
     imgEarth->Show(&earth_);
+    imgEarth->setAccessibleName(QStringLiteral("The earth"));
     for (int line = 0; line < 3; ++line) {
         TextLabel* label = AddText(QStringLiteral("lbl%1").arg(line + 1), Face::Caption,
                                    QRect(16, 128 + 24 * line, 185, 25));
@@ -48,6 +49,7 @@ void frm1::AddCommands() {
     const auto add = [this](const char* name, const QString& caption, const QRect& box,
                             void (Program::*run)()) {
         CommandLabel* command = AddCommand(QString::fromLatin1(name), caption, box);
+        command->setFocusPolicy(Qt::TabFocus);
         connect(command, &CommandLabel::clicked, this, [this, run] {
             program_.sound().PlayWave("BEEP");
             (program_.*run)();

@@ -30,6 +30,7 @@ frm2::frm2(Program& program)
     }
     CommandLabel* lblCont =
         AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue >"), QRect(278, 216, 98, 19));
+    lblCont->setFocusPolicy(Qt::TabFocus);
     connect(lblCont, &CommandLabel::clicked, this, &frm2::Cont);
     LightOneAtATime();
 }
@@ -54,8 +55,10 @@ void frm2::AddRow(int number) {
     Row row{};
     row.lblP = AddText(QStringLiteral("lblP(%1)").arg(number), Face::Caption, QRect(24, y, 104, 19),
                        "Player " + std::to_string(number + 1) + "'s name:");
-    row.txtN = AddField(QStringLiteral("txtN(%1)").arg(number), QPoint(132, y), MaxNameLength, 150);
+    row.txtN = AddField(row.lblP, QStringLiteral("txtN(%1)").arg(number), QPoint(132, y), MaxNameLength, 150);
     row.cmp = new ComputerToggle(this, QStringLiteral("cmp(%1)").arg(number), QRect(290, y - 1, 21, 21));
+    row.cmp->setAccessibleName(QStringLiteral("Player %1 is played by the computer").arg(number + 1));
+    row.cmp->setToolTip(row.cmp->accessibleName());
     connect(row.txtN, &Field::Entered, this, &frm2::Cont);
     connect(row.cmp, &ComputerToggle::clicked, this, [this, row] { ToggleComputer(row); });
     row.lblP->hide();

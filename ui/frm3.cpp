@@ -1,11 +1,15 @@
 #include "ui/frm3.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
 #include <string>
 
 #include "ui/frmSelect.h"
 #include "ui/message_box.h"
 #include "ui/program.h"
+#include "ui/territory_text.h"
 
 namespace vorlund {
 namespace {
@@ -101,13 +105,13 @@ void frm3::Open() {
 }
 
 void frm3::RefreshMap() {
-    const GameState& game = program_.game();
     for (std::size_t t = 0; t < markers_.size(); ++t) {
-        RefreshTerritory(game.Territories[t], markers_[t]);
+        RefreshTerritory(static_cast<int>(t), markers_[t]);
     }
 }
 
-void frm3::RefreshTerritory(const Territory& territory, const Marker& marker) {
+void frm3::RefreshTerritory(int t, const Marker& marker) {
+    const Territory& territory = program_.game().TerritoryAt(t);
     const bool built = territory.HasFactory || territory.HasDefense;
     marker.imgCntry->setVisible(territory.Occupied);
     marker.imgExtra->setVisible(territory.Occupied && built);
@@ -126,11 +130,15 @@ void frm3::RefreshTerritory(const Territory& territory, const Marker& marker) {
     }
     marker.lblCntry->move(x - 28, y + 12);
     marker.lblCntry->Show(std::to_string(territory.Troops) + "/" + std::to_string(territory.Tanks));
+    marker.lblCntry->setAccessibleName(ShortDescription(program_.game(), t));
 }
 
 void frm3::SetCommands(CommandSet available) {
     for (const Command command : AllCommands) {
-        commands_[static_cast<std::size_t>(command)]->setEnabled(available.Has(command));
+        const std::string whyNot = WhyUnavailable(program_.game(), command);
+        commands_[static_cast<std::size_t>(command)]->SetAvailable(
+            available.Has(command),
+            whyNot.empty() ? QStringLiteral("Another window wants to be closed first.") : Displayed(whyNot));
     }
 }
 
@@ -166,6 +174,37 @@ bool frm3::CloseRequested() {
     }
     program_.End();
     return true;
+}
+
+void frm3::TypeInto(Field& field) {
+    connect(&field, &Field::TerritoryWanted, this, [this, &field] { territoryField_ = &field; });
+}
+
+void frm3::mousePressEvent(QMouseEvent* event) {
+    const auto territory = map_.At(event->position());
+    if (territory && !territoryField_.isNull() && territoryField_->isVisible()) {
+        territoryField_->TypeTerritory(*territory + 1);
+    }
+    Screen::mousePressEvent(event);
+}
+
+bool frm3::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        ShowTerritoryTip(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    return Screen::event(event);
+}
+
+void frm3::ShowTerritoryTip(const QHelpEvent& event) {
+    const auto territory = map_.At(event.pos());
+    if (!territory || imgGameOver_->isVisible()) {
+        QToolTip::hideText();
+        return;
+    }
+    // As plain text: a player's name is whatever was typed.
+    const QString tip = FullDescription(program_.game(), *territory).toHtmlEscaped();
+    QToolTip::showText(event.globalPos(), QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip), this);
 }
 
 void frm3::keyPressEvent(QKeyEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QTimer>
 #include <array>
 #include <memory>
@@ -7,6 +8,9 @@
 #include "state/game_state.h"
 #include "turn/commands.h"
 #include "ui/screen.h"
+#include "ui/territory_map.h"
+
+class QHelpEvent;
 
 namespace vorlund {
 
@@ -18,6 +22,11 @@ class frm3 final : public Screen {
     Q_OBJECT
 
 public:
+    // Where windows over the board end, in pixels from its top: reports leave the command bar free, dialogs,
+    // which have taken the commands away, hide it rather than the map.
+    static constexpr int ReportBottom = 428;
+    static constexpr int DialogBottom = 517;
+
     explicit frm3(Program& program);
     ~frm3() override;
 
@@ -30,6 +39,10 @@ public:
     void SetCommands(CommandSet available);
     void ShowGameOver();
 
+    /// A click on a territory types its number into `field` when it is the field for territories that has, or
+    /// last had, the keyboard.
+    void TypeInto(Field& field);
+
     /// Closes the selection screen outright, if it is open.
     void CloseSelection();
 
@@ -39,6 +52,8 @@ public:
 protected:
     bool CloseRequested() override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     struct Marker {
@@ -49,7 +64,8 @@ private:
 
     void AddMarkers();
     void AddCommandBar();
-    void RefreshTerritory(const Territory& territory, const Marker& marker);
+    void RefreshTerritory(int t, const Marker& marker);
+    void ShowTerritoryTip(const QHelpEvent& event);
     void Run(Command command);
 
     Program& program_;
@@ -61,6 +77,8 @@ private:
     PictureLabel* imgGameOver_;
     QTimer tmrFirst_;
     std::unique_ptr<frmSelect> selection_;
+    TerritoryMap map_;
+    QPointer<Field> territoryField_;  // the one that has, or last had, the keyboard
 };
 
 }  // namespace vorlund

@@ -20,16 +20,21 @@ void frmAttack::AddBattleHalf() {
     AddText(QStringLiteral("lbl1"), Face::Heading, QRect(0, 8, 120, 19), "Normal Attack:")
         ->setAlignment(Qt::AlignCenter);
     AddText(QStringLiteral("lblA"), Face::Status, QRect(127, 8, 270, 19), AttacksLeftText(game));
-    AddText(QStringLiteral("lbl3"), Face::Caption, QRect(16, 40, 110, 19), "Attacking territory #:");
-    AddText(QStringLiteral("Label1"), Face::Caption, QRect(16, 72, 110, 19), "Defending territory #:");
-    AddText(QStringLiteral("lbl4"), Face::Caption, QRect(176, 40, 102, 19), "Number of Troops:");
-    AddText(QStringLiteral("lbl5"), Face::Caption, QRect(174, 72, 104, 19), "Number of Tanks:");
-    txtC1_ = AddField(QStringLiteral("txtC1"), QPoint(128, 40), 2);
-    txtC2_ = AddField(QStringLiteral("txtC2"), QPoint(128, 72), 2);
-    txtTroops_ = AddField(QStringLiteral("txtTroops"), QPoint(280, 40), 3);
-    txtTanks_ = AddField(QStringLiteral("txtTanks"), QPoint(280, 72), 3);
+    TextLabel* lbl3 =
+        AddText(QStringLiteral("lbl3"), Face::Caption, QRect(16, 40, 110, 19), "Attacking territory #:");
+    TextLabel* label1 =
+        AddText(QStringLiteral("Label1"), Face::Caption, QRect(16, 72, 110, 19), "Defending territory #:");
+    TextLabel* lbl4 =
+        AddText(QStringLiteral("lbl4"), Face::Caption, QRect(176, 40, 102, 19), "Number of Troops:");
+    TextLabel* lbl5 =
+        AddText(QStringLiteral("lbl5"), Face::Caption, QRect(174, 72, 104, 19), "Number of Tanks:");
+    txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(128, 40), 2);
+    txtC2_ = AddField(label1, QStringLiteral("txtC2"), QPoint(128, 72), 2);
+    txtTroops_ = AddField(lbl4, QStringLiteral("txtTroops"), QPoint(280, 40), 3);
+    txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
     lblAttack_ = AddCommand(QStringLiteral("lblAttack"), QStringLiteral("Attack"), QRect(336, 56, 60, 19));
-    lblAttack_->setEnabled(CanAttack(game));
+    lblAttack_->SetAvailable(CanAttack(game), QStringLiteral("You have no attack left this turn."));
+    TakeTerritories({txtC1_, txtC2_});
     connect(lblAttack_, &CommandLabel::clicked, this, &frmAttack::Attack);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
         connect(field, &Field::Entered, this, &frmAttack::Attack);
@@ -41,11 +46,13 @@ void frmAttack::AddStrikeHalf() {
     AddText(QStringLiteral("lbl2"), Face::Heading, QRect(0, 120, 120, 19), "Nuclear Attack:")
         ->setAlignment(Qt::AlignCenter);
     AddText(QStringLiteral("lblN"), Face::Status, QRect(123, 120, 270, 19), BombText(game));
-    AddText(QStringLiteral("Label2"), Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
-    txtN_ = AddField(QStringLiteral("txtN"), QPoint(120, 152), 2);
+    TextLabel* label2 =
+        AddText(QStringLiteral("Label2"), Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
+    txtN_ = AddField(label2, QStringLiteral("txtN"), QPoint(120, 152), 2);
     lblStrike_ =
         AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(290, 146, 108, 19));
-    lblStrike_->setEnabled(game.Current().HasNuke);
+    lblStrike_->SetAvailable(game.Current().HasNuke, QStringLiteral("You have no nuclear bomb."));
+    TakeTerritories({txtN_});
     connect(lblStrike_, &CommandLabel::clicked, this, &frmAttack::LaunchNuke);
     connect(txtN_, &Field::Entered, this, &frmAttack::LaunchNuke);
 }

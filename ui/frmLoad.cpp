@@ -1,6 +1,7 @@
 #include "ui/frmLoad.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include "savegame/game_name.h"
@@ -12,14 +13,15 @@ namespace vorlund {
 frmLoad::frmLoad(Program& program)
     : Screen(nullptr, QStringLiteral("frmLoad"), QStringLiteral("Vorlund - Load Game"), QSize(340, 260)),
       program_(program) {
-    AddText(QStringLiteral("lbl2"), Face::Heading, QRect(16, 12, 308, 20),
-            "Select a saved game from the list below:");
+    TextLabel* lbl2 = AddText(QStringLiteral("lbl2"), Face::Heading, QRect(16, 12, 308, 20),
+                              "Select a saved game from the list below:");
     flb1_ = new QListWidget(this);
     flb1_->setObjectName(QStringLiteral("flb1"));
     flb1_->setGeometry(QRect(16, 40, 180, 204));
     flb1_->setFont(FontOf(Face::Field));
     flb1_->setUniformItemSizes(true);
     flb1_->viewport()->installEventFilter(this);
+    lbl2->setBuddy(flb1_);
     const std::array<const char*, 3> captions{"Load Game", "Delete Game", "Cancel"};
     for (int i = 0; i < 3; ++i) {
         CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo(%1)").arg(i),
@@ -92,6 +94,21 @@ void frmLoad::Delete() {
 bool frmLoad::CloseRequested() {
     program_.BackToTitle();
     return true;
+}
+
+void frmLoad::keyPressEvent(QKeyEvent* event) {
+    // Keys that the list leaves to the window
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            CallLoad(0);
+            break;
+        case Qt::Key_Delete:
+            CallLoad(1);
+            break;
+        default:
+            Screen::keyPressEvent(event);
+    }
 }
 
 bool frmLoad::eventFilter(QObject* watched, QEvent* event) {

@@ -21,6 +21,7 @@ public:
 
 protected:
     bool CloseRequested() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     /// The three commands: load (0), delete (1), cancel (2).

@@ -1,5 +1,6 @@
 #include "ui/frmReport.h"
 
+#include <QAccessible>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QScrollArea>
@@ -68,9 +69,13 @@ void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* ow
     winId();
     windowHandle()->setTransientParent(owner != nullptr ? owner->windowHandle() : nullptr);
     if (!isVisible()) {
-        PlaceOver(*this, *program_.screens().board(), false);
+        PlaceOver(*this, *program_.screens().board(), frm3::ReportBottom);
     }
     Present();
+    setAccessibleName(lbl1_->text());
+    setAccessibleDescription(lbl2_->text());
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 bool frmReport::CloseRequested() {

@@ -14,9 +14,9 @@ constexpr int MaxGameNameLength = 12;
 frmSave::frmSave(Program& program)
     : CommandDialog(program, QStringLiteral("frmSave"), QStringLiteral("Vorlund - Save Game"),
                     QSize(300, 96)) {
-    AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 260, 20),
-            "Enter a name for the saved game:");
-    txtSave_ = AddField(QStringLiteral("txtSave"), QPoint(20, 50), MaxGameNameLength, 160);
+    TextLabel* lbl1 = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 260, 20),
+                              "Enter a name for the saved game:");
+    txtSave_ = AddField(lbl1, QStringLiteral("txtSave"), QPoint(20, 50), MaxGameNameLength, 160);
     CommandLabel* lblGo =
         AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(206, 50, 60, 19));
     connect(lblGo, &CommandLabel::clicked, this, &frmSave::Entr);

@@ -2,27 +2,31 @@
 
 #include <QApplication>
 
+#include "ui/frm3.h"
 #include "ui/message_box.h"
 #include "ui/program.h"
 
 namespace vorlund {
 
-frmSelect::frmSelect(Program& program, QWidget& board)
+frmSelect::frmSelect(Program& program, frm3& board)
     : Screen(&board, QStringLiteral("frmSelect"), QStringLiteral("Vorlund - Territory Select"),
              QSize(360, 140), {}, Qt::Dialog),
       program_(program),
       selection_(program.game(), program.random()) {
     lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(16, 12, 328, 58));
     lbl1_->setAlignment(Qt::AlignCenter);
-    AddText(QStringLiteral("lbl2"), Face::Caption, QRect(56, 92, 136, 19), "Territory number (1-42):");
-    txtNum_ = AddField(QStringLiteral("txtNum"), QPoint(196, 92), 2);
+    TextLabel* lbl2 =
+        AddText(QStringLiteral("lbl2"), Face::Caption, QRect(56, 92, 136, 19), "Territory number (1-42):");
+    txtNum_ = AddField(lbl2, QStringLiteral("txtNum"), QPoint(196, 92), 2);
     CommandLabel* lblGo =
         AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(244, 92, 52, 19));
     connect(lblGo, &CommandLabel::clicked, this, &frmSelect::Entr);
     connect(txtNum_, &Field::Entered, this, &frmSelect::Entr);
+    txtNum_->TakeTerritories();
+    board.TypeInto(*txtNum_);
     txtNum_->setFocus();
     lbl1_->Show(selection_.Open());
-    PlaceOver(*this, board, true);
+    PlaceOver(*this, board, frm3::DialogBottom);
 }
 
 void frmSelect::Entr() {

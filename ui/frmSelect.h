@@ -6,13 +6,14 @@
 namespace vorlund {
 
 class Program;
+class frm3;
 
 /// The selection screen of a new game's opening round: each human player types the number of a territory.
 class frmSelect final : public Screen {
     Q_OBJECT
 
 public:
-    frmSelect(Program& program, QWidget& board);
+    frmSelect(Program& program, frm3& board);
 
 protected:
     bool CloseRequested() override;

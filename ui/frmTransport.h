@@ -14,6 +14,7 @@ public:
 
 private:
     void Move();
+    void ShowWhetherMovesAreLeft();
 
     using CommandDialog::Settle;
     void Settle(const Moved& moved);

@@ -19,11 +19,11 @@ frmUpgrade::frmUpgrade(Program& program)
                     QSize(Width, 277)) {
     lblTop_ = AddText(QStringLiteral("lblTop"), Face::Status, QRect(8, 4, Width - 16, 34));
     AddLine(QStringLiteral("Line1"), QPoint(12, 41), Width - 24);
-    AddTrack(Track::Economy, 1, 46);
+    AddTrack(Track::Economy, "Economy", 1, 46);
     AddLine(QStringLiteral("Line2"), QPoint(12, 83), Width - 24);
-    AddTrack(Track::Warfare, 2, 88);
+    AddTrack(Track::Warfare, "Warfare", 2, 88);
     AddLine(QStringLiteral("Line3"), QPoint(12, 125), Width - 24);
-    AddTrack(Track::Nuclear, 3, 130);
+    AddTrack(Track::Nuclear, "Nuclear", 3, 130);
     AddLine(QStringLiteral("Line6"), QPoint(12, 167), Width - 24);
     AddConstruction(1, 177, "Label7", "txtC1", QStringLiteral("Build Factory"), "$180", &Fact);
     AddConstruction(2, 227, "Label1", "txtC2", QStringLiteral("Build Defense"), "$100", &Def);
@@ -31,9 +31,11 @@ frmUpgrade::frmUpgrade(Program& program)
     Update({});
 }
 
-void frmUpgrade::AddTrack(Track track, int number, int y) {
+void frmUpgrade::AddTrack(Track track, const char* name, int number, int y) {
     TrackRow row{track, AddText(Numbered("lbl", number), Face::Caption, QRect(12, y, 144, 32)),
                  AddCommand(Numbered("lblGo", number), QStringLiteral("Upgrade"), QRect(164, y + 6, 78, 19))};
+    row.Go->setAccessibleName(row.Go->text() + u' ' + QString::fromLatin1(name));
+    row.Go->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(number)));
     connect(row.Go, &CommandLabel::clicked, this, [this, track] {
         std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(program().game(), track));
     });
@@ -43,16 +45,20 @@ void frmUpgrade::AddTrack(Track track, int number, int y) {
 void frmUpgrade::AddConstruction(int number, int y, const char* captionName, const char* fieldName,
                                  const QString& command, const char* price,
                                  std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view)) {
-    AddText(QString::fromLatin1(captionName), Face::Caption, QRect(12, y, 62, 19), "Territory #:");
-    Field* field = AddField(QString::fromLatin1(fieldName), QPoint(76, y), 2);
+    TextLabel* caption =
+        AddText(QString::fromLatin1(captionName), Face::Caption, QRect(12, y, 62, 19), "Territory #:");
+    Field* field = AddField(caption, QString::fromLatin1(fieldName), QPoint(76, y), 2);
     CommandLabel* go = AddCommand(Numbered("lblGo", number + 3), command, QRect(124, y, 118, 19));
     AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), price)
         ->setAlignment(Qt::AlignCenter);
+    // The two captions are alike; who hears the screen is told what is built.
+    field->setAccessibleName(caption->text() + u' ' + command);
     const auto run = [this, field, build] {
         std::visit([this](const auto& outcome) { Settle(outcome); }, build(program().game(), field->Typed()));
     };
     connect(go, &CommandLabel::clicked, this, run);
     connect(field, &Field::Entered, this, run);
+    TakeTerritories({field});
     fields_[static_cast<std::size_t>(number - 1)] = field;
 }
 
@@ -64,7 +70,7 @@ void frmUpgrade::Update(const std::string& message) {
     for (const TrackRow& row : tracks_) {
         const TrackStatus status = StatusOf(program().game(), row.Which);
         row.Status->Show(status.Text);
-        row.Go->setEnabled(status.CanRise);
+        row.Go->SetAvailable(status.CanRise, QStringLiteral("This upgrade is at its highest level."));
     }
 }
 

@@ -22,7 +22,7 @@ private:
         CommandLabel* Go;
     };
 
-    void AddTrack(Track track, int number, int y);
+    void AddTrack(Track track, const char* name, int number, int y);
     void AddConstruction(int number, int y, const char* captionName, const char* fieldName,
                          const QString& command, const char* price,
                          std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view));

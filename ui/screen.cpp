@@ -55,8 +55,10 @@ TextLabel* Screen::AddText(const QString& name, Face face, const QRect& frame, s
     return label;
 }
 
-Field* Screen::AddField(const QString& name, QPoint position, int maxLength, int width) {
-    return new Field(this, name, QRect(position, QSize(width, FieldHeight)), maxLength);
+Field* Screen::AddField(TextLabel* caption, const QString& name, QPoint position, int maxLength, int width) {
+    auto* field = new Field(this, name, QRect(position, QSize(width, FieldHeight)), maxLength);
+    caption->setBuddy(field);
+    return field;
 }
 
 CommandLabel* Screen::AddCommand(const QString& name, const QString& caption, const QRect& box) {
@@ -113,14 +115,11 @@ void Screen::paintEvent(QPaintEvent* event) {
     painter.drawPixmap(0, 0, background_.At(devicePixelRatioF()));
 }
 
-void PlaceOver(QWidget& window, const QWidget& owner, bool low) {
-    constexpr int gap = 8;
+void PlaceOver(QWidget& window, const QWidget& owner, int bottom) {
     const QRect under = owner.geometry();
     QRect place(QPoint(0, 0), window.size());
     place.moveCenter(under.center());
-    if (low) {
-        place.moveBottom(under.bottom() - gap);
-    }
+    place.moveBottom(under.top() + bottom);
     // A window is moved by its frame, whose title bar will be as high as the owner's.
     place.translate(0, owner.frameGeometry().top() - under.top());
     if (const QScreen* screen = owner.screen(); screen != nullptr) {

@@ -33,7 +33,10 @@ public:
 
 protected:
     TextLabel* AddText(const QString& name, Face face, const QRect& frame, std::string_view text = {});
-    Field* AddField(const QString& name, QPoint position, int maxLength, int width = 33);
+
+    /// A text field named, for those who hear the screen, by the text of `caption`.
+    Field* AddField(TextLabel* caption, const QString& name, QPoint position, int maxLength, int width = 33);
+
     CommandLabel* AddCommand(const QString& name, const QString& caption, const QRect& box);
 
     /// One command of the window is lit at a time: the others rest when the pointer comes to one.
@@ -61,7 +64,8 @@ private:
     bool placed_ = false;
 };
 
-/// Moves `window` over `owner`, centred; `low` puts it at the lower edge, where it hides least of the map.
-void PlaceOver(QWidget& window, const QWidget& owner, bool low);
+/// Moves `window` over `owner`, in its middle from left to right and with its lower edge `bottom` pixels
+/// below the owner's upper one, but onto the desktop in any case.
+void PlaceOver(QWidget& window, const QWidget& owner, int bottom);
 
 }  // namespace vorlund

@@ -17,13 +17,14 @@ TradeDialog::TradeDialog(Program& program, const Layout& layout, std::string_vie
     const auto row = [&](const char* name, const char* field, const char* caption, int line) {
         const int y = TroopsY + line * RowHeight;
         const int x = layout.QuantityCaptionX;
-        AddText(QString::fromLatin1(name), Face::Caption,
-                QRect(x, y, layout.QuantityFieldX - x - 4, FieldHeight), caption);
-        return AddField(QString::fromLatin1(field), QPoint(layout.QuantityFieldX, y), 3);
+        TextLabel* label = AddText(QString::fromLatin1(name), Face::Caption,
+                                   QRect(x, y, layout.QuantityFieldX - x - 4, FieldHeight), caption);
+        return AddField(label, QString::fromLatin1(field), QPoint(layout.QuantityFieldX, y), 3);
     };
-    AddText(QStringLiteral("lbl3"), Face::Caption,
-            QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight), layout.TerritoryCaption);
-    txtC1_ = AddField(QStringLiteral("txtC1"), QPoint(layout.TerritoryFieldX, TerritoryY), 2);
+    TextLabel* lbl3 =
+        AddText(QStringLiteral("lbl3"), Face::Caption,
+                QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight), layout.TerritoryCaption);
+    txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(layout.TerritoryFieldX, TerritoryY), 2);
     txtTroops_ = row("lbl4", "txtTroops", layout.TroopsCaption, 0);
     txtTanks_ = row("lbl5", "txtTanks", layout.TanksCaption, 1);
     txtOil_ = row("lbl6", "txtOil", layout.OilCaption, 2);
@@ -33,6 +34,7 @@ TradeDialog::TradeDialog(Program& program, const Layout& layout, std::string_vie
     for (Field* field : {txtC1_, txtTroops_, txtTanks_, txtOil_}) {
         connect(field, &Field::Entered, this, &TradeDialog::Trade);
     }
+    TakeTerritories({txtC1_});
     txtC1_->setFocus();
 }
 

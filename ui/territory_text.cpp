@@ -1,0 +1,57 @@
+#include "ui/territory_text.h"
+
+#include <QStringList>
+
+#include "ui/look.h"
+
+namespace vorlund {
+namespace {
+
+QString NumberAndName(const GameState& game, int t) {
+    return QStringLiteral("%1 %2").arg(t + 1).arg(Displayed(game.TerritoryAt(t).Name));
+}
+
+QString Counted(int number, const QString& one, const QString& many) {
+    return QStringLiteral("%1 %2").arg(number).arg(number == 1 ? one : many);
+}
+
+QStringList Holdings(const GameState& game, const Territory& territory) {
+    if (!territory.Occupied) {
+        return {QStringLiteral("nobody's")};
+    }
+    QStringList holdings{QStringLiteral("%1 (Player %2)")
+                             .arg(Displayed(game.PlayerAt(territory.Owner).Name))
+                             .arg(territory.Owner + 1),
+                         Counted(territory.Troops, QStringLiteral("troop"), QStringLiteral("troops")),
+                         Counted(territory.Tanks, QStringLiteral("tank"), QStringLiteral("tanks"))};
+    if (territory.HasFactory) {
+        holdings << QStringLiteral("factory");
+    }
+    if (territory.HasDefense) {
+        holdings << QStringLiteral("defense");
+    }
+    return holdings;
+}
+
+}  // namespace
+
+QString ShortDescription(const GameState& game, int t) {
+    return NumberAndName(game, t) + QStringLiteral(": ") +
+           Holdings(game, game.TerritoryAt(t)).join(QStringLiteral(", "));
+}
+
+QString FullDescription(const GameState& game, int t) {
+    const Territory& territory = game.TerritoryAt(t);
+    QStringList neighbours;
+    for (const std::int16_t n : territory.Neighbours) {
+        if (n != NoNeighbour) {
+            neighbours << NumberAndName(game, n);
+        }
+    }
+    return NumberAndName(game, t) + u'\n' + Holdings(game, territory).join(QStringLiteral(", ")) +
+           QStringLiteral("\nValue %1").arg(territory.Value) +
+           (territory.HasOil ? QStringLiteral(", oil field") : QString()) + QStringLiteral("\nNeighbours: ") +
+           neighbours.join(QStringLiteral(", "));
+}
+
+}  // namespace vorlund
