@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <vector>
 
 #include "actions/battle.h"
@@ -221,19 +220,35 @@ TEST(Attck, TakesAnUndefendedTerritoryWithoutARound) {
     EXPECT_EQ(game.Players[0].Troops, 4);
 }
 
-TEST(BattleRound, TurnsAtSixOfTwelve) {
+TEST(BattleRound, HasTheDefenderLoseSixInTwelveAndTheDifferenceInStrength) {
     struct Row {
         const char* what;
-        float u;
-        int attackersLeft;
+        std::int16_t attackerLevel;
+        std::int16_t defenderLevel;
+        bool defense;
+        float faces;
     };
-    for (const Row& row :
-         {Row{"just below one half", std::nextafter(0.5F, 0.0F), 1}, Row{"one half", 0.5F, 0}}) {
-        GameState game = AnnaAgainstBen(1, 0, 2, 0);
-        Battle battle = BeginBattle(game, 6, 1, 0);
-        ScriptedRandom random({row.u});
-        BattleRound(game, random, battle);
-        EXPECT_EQ(battle.Troops, row.attackersLeft) << row.what;
+    const std::vector<Row> rows{
+        {"equal", 0, 0, false, 12},
+        {"equal at the top", 3, 3, false, 12},
+        {"behind a defense", 0, 0, true, 14},
+        {"the defender a level ahead", 1, 2, false, 13},
+        {"the defender three ahead and behind a defense", 0, 3, true, 17},
+        {"the attacker three ahead", 3, 0, false, 9},
+        {"the attacker three ahead of a defense", 3, 0, true, 11},
+    };
+    for (const Row& row : rows) {
+        for (const bool defenderLoses : {true, false}) {
+            GameState game = AnnaAgainstBen(1, 0, 1, 0);
+            game.Players[0].WarfareLevel = row.attackerLevel;
+            game.Players[1].WarfareLevel = row.defenderLevel;
+            game.Territories[6].HasDefense = row.defense;
+            ScriptedRandom random({6 / row.faces + (defenderLoses ? -1e-5F : 1e-5F)});
+            Battle battle = BeginBattle(game, 6, 1, 0);
+            BattleRound(game, random, battle);
+            EXPECT_EQ(battle.Troops, defenderLoses ? 1 : 0) << row.what;
+            EXPECT_EQ(game.Territories[6].Troops, defenderLoses ? 0 : 1) << row.what;
+        }
     }
 }
 

@@ -288,6 +288,7 @@ TEST(Reinforce, SharesThePoolOutOverTheBordersWithEnemies) {
         ScriptedRandom random(script);
         Reinforce(game, random, row.count);
         EXPECT_EQ(game.Territories[10].Troops, 7 + row.share * row.enemies) << row.what;
+        EXPECT_EQ(game.Territories[10].Tanks, 0) << row.what;
         EXPECT_EQ(game.Players[0].Troops, 7) << row.what;
     }
 }
