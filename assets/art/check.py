@@ -6,6 +6,7 @@ import sys
 
 from PIL import Image, ImageChops
 
+from icons import ICON_SIZES, SAVED_GAME
 from ink import ICONS, PICTURES, PLAYERS
 
 GROUNDS = {'frmBuy': (391, 138), 'frmSell': (348, 135), 'frmTransport': (391, 110), 'frmAttack': (414, 189),
@@ -80,8 +81,10 @@ def check(faults):
         edge = frame.copy()
         edge.paste((0, 0, 0), (scale, scale, frame.width - scale, frame.height - scale))
         need(ImageChops.lighter(edge, edge).getbbox() is None, 'the title picture touches the edge of its frame')
-    for size in (16, 22, 24, 32, 48, 64, 128, 256):
-        need(Image.open(ICONS / ('vorlund-%d.png' % size)).size == (size, size), 'icon %d has another size' % size)
+    for size in ICON_SIZES:
+        for icon in ('vorlund', SAVED_GAME):
+            image = Image.open(ICONS / ('%s-%d.png' % (icon, size)))
+            need(image.size == (size, size), 'icon %s %d has another size' % (icon, size))
     print('contrast at worst: white %.2f, green %.2f, teal on its lines %.2f; grounds %d bytes'
           % (lowest[WHITE], lowest[GREEN], lowest[TEAL], spent))
 

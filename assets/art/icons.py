@@ -3,6 +3,8 @@ scaled; the smaller ones are drawn anew on their own pixel grids."""
 from earth import Chart
 from ink import CREAM, ICONS, document, fill, rasterise, stroke
 
+ICON_SIZES = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
+SAVED_GAME = 'application-x-vorlund-saved-game'  # the name that desktops derive from its type
 RED, BORDER = '#e0281e', '#0b1622'
 
 SEA = ('<linearGradient id="sea" x2="0" y2="1"><stop offset="0" stop-color="#3c627d"/>'
@@ -58,13 +60,13 @@ def saved_game():
 
 def main():
     ICONS.mkdir(parents=True, exist_ok=True)
-    scalable = document(128, 128, tile())
-    (ICONS / 'vorlund.svg').write_text(scalable)
-    (ICONS / 'application-x-vorlund.svg').write_text(document(128, 128, saved_game()))
-    for size in SMALL:
-        rasterise(small(size), ICONS / ('vorlund-%d.png' % size), size, size)
-    for size in (48, 64, 128, 256):
-        rasterise(scalable, ICONS / ('vorlund-%d.png' % size), size, size)
+    program, saved = document(128, 128, tile()), document(128, 128, saved_game())
+    (ICONS / 'vorlund.svg').write_text(program)
+    (ICONS / (SAVED_GAME + '.svg')).write_text(saved)
+    for size in ICON_SIZES:
+        drawing = small(size) if size in SMALL else program
+        rasterise(drawing, ICONS / ('vorlund-%d.png' % size), size, size)
+        rasterise(saved, ICONS / ('%s-%d.png' % (SAVED_GAME, size)), size, size)
 
 
 if __name__ == '__main__':
