@@ -49,6 +49,7 @@ frm3::frm3(Program& program)
       imgExtraSet_{Picture(QStringLiteral("extra0")), Picture(QStringLiteral("extra1")),
                    Picture(QStringLiteral("extra2"))},
       gameOver_(QStringLiteral("gameover")) {
+    setFocusPolicy(Qt::StrongFocus);
     AddMarkers();
     AddCommandBar();
     imgGameOver_ = new PictureLabel(this, QStringLiteral("imgGameOver"), QRect(29, 32, 692, 381));
@@ -134,6 +135,8 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
 }
 
 void frm3::SetCommands(CommandSet available) {
+    // The keyboard goes back to the board itself: an Enter too many after a report must not run a command.
+    setFocus();
     for (const Command command : AllCommands) {
         const std::string whyNot = WhyUnavailable(program_.game(), command);
         commands_[static_cast<std::size_t>(command)]->SetAvailable(

@@ -17,7 +17,7 @@ QString Counted(int number, const QString& one, const QString& many) {
 
 QStringList Holdings(const GameState& game, const Territory& territory) {
     if (!territory.Occupied) {
-        return {QStringLiteral("nobody's")};
+        return {QStringLiteral("held by nobody")};
     }
     QStringList holdings{QStringLiteral("%1 (Player %2)")
                              .arg(Displayed(game.PlayerAt(territory.Owner).Name))
