@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "ui/frm3.h"
+#include "ui/frmReport.h"
 #include "ui/game_screens.h"
 #include "ui/message_box.h"
 #include "ui/program.h"
@@ -38,7 +39,11 @@ void CommandDialog::TakeTerritories(std::initializer_list<Field*> fields) {
 }
 
 bool CommandDialog::CloseRequested() {
-    program_.screens().RestoreCommands();
+    GameScreens& screens = program_.screens();
+    screens.RestoreCommands();
+    if (!screens.report().isVisible()) {
+        screens.board()->activateWindow();
+    }
     return true;
 }
 
