@@ -187,7 +187,7 @@ std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, bool 
     if (const auto* refusal = std::get_if<Refusal>(&read)) {
         return *refusal;
     }
-    const Order& order = std::get<Order>(read);
+    const auto& order = std::get<Order>(read);
     if (const auto refusal = CheckForce(game.TerritoryAt(order.From), order)) {
         return *refusal;
     }

@@ -188,7 +188,7 @@ TEST(ComputerTurn, DrawsItsClaimsByTheNumberOfPlayers) {
         script.insert(script.end(), {Forward, Forward});
         script.insert(script.end(), static_cast<std::size_t>(row.claims), NoDefense);
         script.push_back(For(79 - 3 - row.claims, 80 - 3 - row.claims));
-        script.insert(script.end(), static_cast<std::size_t>(3 + row.claims), For(0, 7));
+        script.insert(script.end(), static_cast<std::size_t>(row.claims) + 3, For(0, 7));
         ScriptedRandom random(script);
         Recorder seen;
         ComputerTurn(game, random, seen);

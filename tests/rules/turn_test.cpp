@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 #include "computer/computer_turn.h"
@@ -25,7 +26,7 @@ CommandSet AllButAttack() {
 
 /// A game with its screens and its chance, played from a script.
 struct Play {
-    Play(GameState start, std::vector<float> script) : Game(start), Chance(std::move(script)) {}
+    Play(GameState start, std::vector<float> script) : Game(std::move(start)), Chance(std::move(script)) {}
 
     GameState Game;
     ScriptedRandom Chance;
