@@ -73,10 +73,11 @@ std::string ParentOf(const std::string& path) {
     return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
 }
 
+// One call for each folder of the path, and none above its root. NOLINTNEXTLINE(misc-no-recursion)
 int MakeFolderWithParents(const SystemCalls& calls, const std::string& path) {
     const auto make = [&] { return ErrorOf(Repeat([&] { return calls.MakeFolder(path); })); };
     int error = make();
-    if (error == ENOENT) {
+    if (error == ENOENT && ParentOf(path) != path) {
         error = MakeFolderWithParents(calls, ParentOf(path));
         error = error == 0 ? make() : error;
     }

@@ -16,7 +16,8 @@ public:
     /// Starts a new sequence from the clock.
     virtual void Reseed() = 0;
 
-    /// A draw over n >= 0: the largest whole number not above u * n for a fresh u, 0 to n - 1; over 0 it is 0.
+    /// A draw over n >= 0: the largest whole number not above u * n for a fresh u, 0 to n - 1; over 0 it is
+    /// 0.
     int Draw(int n);
 };
 
