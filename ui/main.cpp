@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QStandardPaths>
+#include <array>
 
+#include "ui/accessible.h"
 #include "ui/held_keys.h"
 #include "ui/program.h"
 #include "ui/single_copy.h"
@@ -8,9 +10,10 @@
 int main(int, char** arguments) {
     // The game has no command line, so the toolkit gets none either.
     int count = 1;
-    char* name[] = {arguments[0], nullptr};
-    const QApplication application(count, name);
+    std::array<char*, 2> name{arguments[0], nullptr};
+    const QApplication application(count, name.data());
     QApplication::setApplicationName(QStringLiteral("vorlund"));
+    QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
     QApplication::setQuitOnLastWindowClosed(false);
 
     const vorlund::SingleCopy copy;
@@ -19,6 +22,7 @@ int main(int, char** arguments) {
     }
     vorlund::HeldKeys heldKeys;
     qApp->installEventFilter(&heldKeys);
+    vorlund::DescribeScreensToAssistiveTechnology();
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     vorlund::Program program(std::make_unique<vorlund::ClockRandom>(),
                              vorlund::SavedGamesFolder((data + QStringLiteral("/vorlund")).toStdString()));
