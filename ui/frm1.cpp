@@ -78,7 +78,7 @@ void frm1::StartTimers() {
 }
 
 void frm1::TypeCredit() {
-    std::size_t typed = static_cast<std::size_t>(CreditTicks_);
+    auto typed = static_cast<std::size_t>(CreditTicks_);
     for (std::size_t line = 0; line < Credits.size(); ++line) {
         if (typed < Credits[line].size()) {
             ++CreditTicks_;

@@ -100,6 +100,7 @@ void frm2::ShowNameRows() {
 
 void frm2::CheckNames() {
     std::vector<std::string> names;
+    names.reserve(rows_.size());
     for (int i = 0; i < program_.game().NumPlayers; ++i) {
         names.push_back(rows_[static_cast<std::size_t>(i)].txtN->Typed());
     }

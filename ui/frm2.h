@@ -30,7 +30,7 @@ private:
     };
 
     void AddChoices();
-    void AddRow(int row);
+    void AddRow(int number);
     void Cont();
     void ShowNameRows();
     void CheckNames();

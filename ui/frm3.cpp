@@ -18,10 +18,10 @@ constexpr QSize Size(750, 525);
 constexpr int SelectionDelay = 20;  // milliseconds
 
 struct CommandPlace {
-    const char* Name;
-    const char* Caption;
+    const char* Name = nullptr;
+    const char* Caption = nullptr;
     QPoint Position;
-    char Key;
+    char Key = 0;
 };
 
 // In the order of Command

@@ -18,8 +18,8 @@ frmStatus::frmStatus(Program& program) : CommandDialog(program, QStringLiteral("
     const StatusLines lines = DescribeStatus(program.game());
     setWindowTitle(Displayed(lines.Title));
     struct Row {
-        const char* Caption;
-        const char* Control;
+        const char* Caption = nullptr;
+        const char* Control = nullptr;
         const std::string& Value;
         int Lines = 1;
     };

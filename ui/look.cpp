@@ -88,7 +88,7 @@ QString Displayed(std::string_view text) {
 QPixmap LoadPicture(const QString& name, qreal ratio) {
     const QString stem = QStringLiteral(":/pictures/") + name;
     if (ratio == 1.0) {
-        return QPixmap(stem + QStringLiteral(".png"));
+        return {stem + QStringLiteral(".png")};
     }
     QPixmap picture(stem + QStringLiteral("@2x.png"));
     // In between two scales the finer picture is brought to the device's own pixels once, not at every paint.

@@ -44,6 +44,7 @@ void PrepareSdl() {
     SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "dropframe");  // the gunfire ends in a short block
     SDL_LogSetOutputFunction(nullptr, nullptr);
     using Setter = int (*)(AlsaErrorHandler);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a library gives its functions so
     if (auto set = reinterpret_cast<Setter>(
             QLibrary::resolve(QStringLiteral("asound"), 2, "snd_lib_error_set_handler"))) {
         set(IgnoreAlsaError);
@@ -116,7 +117,7 @@ public:
 
     bool IsQuiet() const { return SDL_GetQueuedAudioSize(device_) == 0; }
 
-    void Play(const std::vector<Uint8>& samples) {
+    void Play(const std::vector<Uint8>& samples) const {
         SDL_ClearQueuedAudio(device_);
         SDL_QueueAudio(device_, samples.data(), static_cast<Uint32>(samples.size()));
     }
