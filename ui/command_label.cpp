@@ -32,7 +32,16 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
 
 void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
     setEnabled(available);
-    setToolTip(available ? QString() : whyNot);
+    setToolTip(available ? KeyTip() : whyNot);
+}
+
+void CommandLabel::SetKey(const QString& key) {
+    key_ = key;
+    setToolTip(KeyTip());
+}
+
+QString CommandLabel::KeyTip() const {
+    return key_.isEmpty() ? QString() : QStringLiteral("Key: ") + key_;
 }
 
 void CommandLabel::Rest() {

@@ -24,6 +24,10 @@ public:
     /// Enables the command, or disables it for the reason that its tooltip then gives.
     void SetAvailable(bool available, const QString& whyNot);
 
+    /// Tells which key runs the command: in its tooltip, and to those who hear the screen.
+    void SetKey(const QString& key);
+    const QString& Key() const { return key_; }
+
     /// Puts the command back to its colour at rest.
     void Rest();
 
@@ -45,10 +49,12 @@ private:
     enum class State { Rest, Hover, Pressed };
 
     void Become(State state);
+    QString KeyTip() const;
     void PaintPlate(QPainter& painter) const;
     void PaintMark(QPainter& painter, const QColor& ink) const;
 
     State state_ = State::Rest;
+    QString key_;
 };
 
 }  // namespace vorlund

@@ -23,10 +23,9 @@ frm1::frm1(Program& program)
     : Screen(nullptr, QStringLiteral("frm1"), QStringLiteral("Vorlund"), QSize(400, 223), {},
              Qt::Window | Qt::FramelessWindowHint),
       program_(program),
-      earth_(QStringLiteral("earth")) {
+      earth_(QStringLiteral("earth"), QStringLiteral("The earth")) {
     auto* imgEarth = new PictureLabel(this, QStringLiteral("imgEarth"), QRect(96, 16, 208, 100));
     imgEarth->Show(&earth_);
-    imgEarth->setAccessibleName(QStringLiteral("The earth"));
     for (int line = 0; line < 3; ++line) {
         TextLabel* label = AddText(QStringLiteral("lbl%1").arg(line + 1), Face::Caption,
                                    QRect(16, 128 + 24 * line, 185, 25));

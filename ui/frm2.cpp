@@ -31,6 +31,7 @@ frm2::frm2(Program& program)
     CommandLabel* lblCont =
         AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue >"), QRect(278, 216, 98, 19));
     lblCont->setFocusPolicy(Qt::TabFocus);
+    lblCont->SetKey(QStringLiteral("Enter"));
     connect(lblCont, &CommandLabel::clicked, this, &frm2::Cont);
     LightOneAtATime();
 }
@@ -60,7 +61,10 @@ void frm2::AddRow(int number) {
     row.cmp->setAccessibleName(QStringLiteral("Player %1 is played by the computer").arg(number + 1));
     row.cmp->setToolTip(row.cmp->accessibleName());
     connect(row.txtN, &Field::Entered, this, &frm2::Cont);
-    connect(row.cmp, &ComputerToggle::clicked, this, [this, row] { ToggleComputer(row); });
+    connect(row.cmp, &ComputerToggle::toggled, this, [row](bool computer) {
+        row.txtN->setText(computer ? QStringLiteral("Computer") : QString());
+        row.txtN->setEnabled(!computer);
+    });
     row.lblP->hide();
     row.txtN->hide();
     row.cmp->hide();
@@ -113,13 +117,6 @@ void frm2::CheckNames() {
     }
     program_.OpenBoard();
     CloseOutright();
-}
-
-void frm2::ToggleComputer(const Row& row) {
-    const bool computer = row.txtN->isEnabled();
-    row.txtN->setText(computer ? QStringLiteral("Computer") : QString());
-    row.txtN->setEnabled(!computer);
-    row.cmp->setChecked(computer);
 }
 
 bool frm2::CloseRequested() {

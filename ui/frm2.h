@@ -34,7 +34,6 @@ private:
     void Cont();
     void ShowNameRows();
     void CheckNames();
-    void ToggleComputer(const Row& row);
 
     Program& program_;
     TextLabel* lbl1_;

@@ -38,17 +38,20 @@ QString Indexed(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
 }
 
+Picture MarkerOf(int player) {
+    return Picture(QStringLiteral("marker%1").arg(player), QStringLiteral("Player %1").arg(player + 1));
+}
+
 }  // namespace
 
 frm3::frm3(Program& program)
     : Screen(nullptr, QStringLiteral("frm3"), QStringLiteral("Vorlund"), Size, QStringLiteral("map")),
       program_(program),
-      imgSet_{Picture(QStringLiteral("marker0")), Picture(QStringLiteral("marker1")),
-              Picture(QStringLiteral("marker2")), Picture(QStringLiteral("marker3")),
-              Picture(QStringLiteral("marker4"))},
-      imgExtraSet_{Picture(QStringLiteral("extra0")), Picture(QStringLiteral("extra1")),
-                   Picture(QStringLiteral("extra2"))},
-      gameOver_(QStringLiteral("gameover")) {
+      imgSet_{MarkerOf(0), MarkerOf(1), MarkerOf(2), MarkerOf(3), MarkerOf(4)},
+      imgExtraSet_{Picture(QStringLiteral("extra0"), QStringLiteral("Defense")),
+                   Picture(QStringLiteral("extra1"), QStringLiteral("Factory")),
+                   Picture(QStringLiteral("extra2"), QStringLiteral("Factory and defense"))},
+      gameOver_(QStringLiteral("gameover"), QStringLiteral("Game over")) {
     setFocusPolicy(Qt::StrongFocus);
     AddMarkers();
     AddCommandBar();
@@ -87,6 +90,7 @@ void frm3::AddCommandBar() {
         CommandLabel* label = AddCommand(QString::fromLatin1(place.Name), QString::fromLatin1(place.Caption),
                                          QRect(place.Position, QSize(90, 19)));
         label->setFocusPolicy(Qt::TabFocus);
+        label->SetKey(QString(QLatin1Char(place.Key)).toUpper());
         connect(label, &CommandLabel::clicked, this, [this, command] { Run(command); });
         commands_[static_cast<std::size_t>(command)] = label;
     }

@@ -33,6 +33,7 @@ void frmAttack::AddBattleHalf() {
     txtTroops_ = AddField(lbl4, QStringLiteral("txtTroops"), QPoint(280, 40), 3);
     txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
     lblAttack_ = AddCommand(QStringLiteral("lblAttack"), QStringLiteral("Attack"), QRect(336, 56, 60, 19));
+    lblAttack_->SetKey(QStringLiteral("Enter"));
     lblAttack_->SetAvailable(CanAttack(game), QStringLiteral("You have no attack left this turn."));
     TakeTerritories({txtC1_, txtC2_});
     connect(lblAttack_, &CommandLabel::clicked, this, &frmAttack::Attack);
@@ -51,6 +52,7 @@ void frmAttack::AddStrikeHalf() {
     txtN_ = AddField(label2, QStringLiteral("txtN"), QPoint(120, 152), 2);
     lblStrike_ =
         AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(290, 146, 108, 19));
+    lblStrike_->SetKey(QStringLiteral("Enter"));
     lblStrike_->SetAvailable(game.Current().HasNuke, QStringLiteral("You have no nuclear bomb."));
     TakeTerritories({txtN_});
     connect(lblStrike_, &CommandLabel::clicked, this, &frmAttack::LaunchNuke);

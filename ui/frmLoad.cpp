@@ -23,11 +23,13 @@ frmLoad::frmLoad(Program& program)
     flb1_->viewport()->installEventFilter(this);
     lbl2->setBuddy(flb1_);
     const std::array<const char*, 3> captions{"Load Game", "Delete Game", "Cancel"};
+    const std::array<const char*, 3> keys{"Enter", "Delete", ""};
     for (int i = 0; i < 3; ++i) {
         CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo(%1)").arg(i),
                                          QString::fromLatin1(captions[static_cast<std::size_t>(i)]),
                                          QRect(212, 56 + 40 * i, 112, 19));
         lblGo->setFocusPolicy(Qt::TabFocus);
+        lblGo->SetKey(QString::fromLatin1(keys[static_cast<std::size_t>(i)]));
         connect(lblGo, &CommandLabel::clicked, this, [this, i] { CallLoad(i); });
     }
     LightOneAtATime();

@@ -42,6 +42,7 @@ frmReport::frmReport(Program& program)
     lbl2_->setAutoFillBackground(false);
     CommandLabel* lblCont =
         AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue"), QRect(209, 192, 81, 19));
+    lblCont->SetKey(QStringLiteral("Enter"));
     connect(lblCont, &CommandLabel::clicked, this, &frmReport::close);
 }
 

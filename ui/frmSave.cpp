@@ -19,6 +19,7 @@ frmSave::frmSave(Program& program)
     txtSave_ = AddField(lbl1, QStringLiteral("txtSave"), QPoint(20, 50), MaxGameNameLength, 160);
     CommandLabel* lblGo =
         AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(206, 50, 60, 19));
+    lblGo->SetKey(QStringLiteral("Enter"));
     connect(lblGo, &CommandLabel::clicked, this, &frmSave::Entr);
     connect(txtSave_, &Field::Entered, this, &frmSave::Entr);
     txtSave_->setFocus();

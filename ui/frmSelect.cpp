@@ -20,6 +20,7 @@ frmSelect::frmSelect(Program& program, frm3& board)
     txtNum_ = AddField(lbl2, QStringLiteral("txtNum"), QPoint(196, 92), 2);
     CommandLabel* lblGo =
         AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(244, 92, 52, 19));
+    lblGo->SetKey(QStringLiteral("Enter"));
     connect(lblGo, &CommandLabel::clicked, this, &frmSelect::Entr);
     connect(txtNum_, &Field::Entered, this, &frmSelect::Entr);
     txtNum_->TakeTerritories();

@@ -47,6 +47,7 @@ frmStatus::frmStatus(Program& program) : CommandDialog(program, QStringLiteral("
     img1->Show(&program.screens().board()->imgSet(program.game().CurrentPlayer));
     CommandLabel* lblCont =
         AddCommand(QStringLiteral("lblCont"), QStringLiteral("Close"), QRect(130, 308, 60, 19));
+    lblCont->SetKey(QStringLiteral("Enter"));
     connect(lblCont, &CommandLabel::clicked, this, &frmStatus::close);
 }
 

@@ -23,6 +23,7 @@ frmTransport::frmTransport(Program& program)
         AddText(QStringLiteral("lbl5"), Face::Caption, QRect(178, 72, 100, 19), "Number of Tanks:");
     txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
     lblGo_ = AddCommand(QStringLiteral("lblGo"), QStringLiteral("Move"), QRect(328, 56, 48, 19));
+    lblGo_->SetKey(QStringLiteral("Enter"));
     ShowWhetherMovesAreLeft();
     connect(lblGo_, &CommandLabel::clicked, this, &frmTransport::Move);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {

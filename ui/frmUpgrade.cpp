@@ -34,8 +34,9 @@ frmUpgrade::frmUpgrade(Program& program)
 void frmUpgrade::AddTrack(Track track, const char* name, int number, int y) {
     TrackRow row{track, AddText(Numbered("lbl", number), Face::Caption, QRect(12, y, 144, 32)),
                  AddCommand(Numbered("lblGo", number), QStringLiteral("Upgrade"), QRect(164, y + 6, 78, 19))};
-    row.Go->setAccessibleName(row.Go->text() + u' ' + QString::fromLatin1(name));
-    row.Go->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(number)));
+    row.Go->setAccessibleDescription(QString::fromLatin1(name));
+    row.Go->SetKey(QStringLiteral("Alt+%1").arg(number));
+    row.Go->setShortcut(QKeySequence(row.Go->Key()));
     connect(row.Go, &CommandLabel::clicked, this, [this, track] {
         std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(program().game(), track));
     });
@@ -52,7 +53,8 @@ void frmUpgrade::AddConstruction(int number, int y, const char* captionName, con
     AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), price)
         ->setAlignment(Qt::AlignCenter);
     // The two captions are alike; who hears the screen is told what is built.
-    field->setAccessibleName(caption->text() + u' ' + command);
+    field->setAccessibleDescription(command);
+    go->SetKey(QStringLiteral("Enter"));
     const auto run = [this, field, build] {
         std::visit([this](const auto& outcome) { Settle(outcome); }, build(program().game(), field->Typed()));
     };

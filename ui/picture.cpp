@@ -23,6 +23,7 @@ PictureLabel::PictureLabel(QWidget* parent, const QString& objectName, const QRe
 void PictureLabel::Show(const Picture* picture) {
     if (picture_ != picture) {
         picture_ = picture;
+        setAccessibleName(picture != nullptr ? picture->Description() : QString());
         update();
     }
 }

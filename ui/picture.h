@@ -10,12 +10,17 @@ namespace vorlund {
 /// pixel ratio changes.
 class Picture {
 public:
-    explicit Picture(QString name) : name_(std::move(name)) {}
+    /// `description` says what is seen, to those who do not see it.
+    explicit Picture(QString name, QString description = {})
+        : name_(std::move(name)), description_(std::move(description)) {}
+
+    const QString& Description() const { return description_; }
 
     const QPixmap& At(qreal ratio) const;
 
 private:
     QString name_;
+    QString description_;
     mutable QPixmap pixmap_;
     mutable qreal ratio_ = 0;
 };

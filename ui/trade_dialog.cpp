@@ -30,6 +30,7 @@ TradeDialog::TradeDialog(Program& program, const Layout& layout, std::string_vie
     txtOil_ = row("lbl6", "txtOil", layout.OilCaption, 2);
     CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo"), layout.Command,
                                      QRect(layout.QuantityFieldX + 42, TroopsY + RowHeight, 40, FieldHeight));
+    lblGo->SetKey(QStringLiteral("Enter"));
     connect(lblGo, &CommandLabel::clicked, this, &TradeDialog::Trade);
     for (Field* field : {txtC1_, txtTroops_, txtTanks_, txtOil_}) {
         connect(field, &Field::Entered, this, &TradeDialog::Trade);
