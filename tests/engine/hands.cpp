@@ -12,10 +12,6 @@ namespace {
 constexpr std::size_t StepsRemembered = 12;
 constexpr int LeastDrawsOfAComputer = 4;  // bomb, two directions, tank bonus
 
-bool Contains(const std::vector<std::string>& calls, const char* name) {
-    return std::find(calls.begin(), calls.end(), name) != calls.end();
-}
-
 }  // namespace
 
 Hands::Hands(std::uint32_t seed)
@@ -109,7 +105,7 @@ std::optional<std::string> Hands::CloseReport() {
     const GameState before = table_.Game;
     const std::int64_t drawsBefore = table_.Chance.Draws;
     if (table_.Turn.ReportClosed()) {
-        if (Contains(table_.Seen.Calls, "CloseDialogs")) {
+        if (table_.Seen.Calls.find("CloseDialogs") != std::string::npos) {
             dialog_.reset();
         }
         return BrokenHandOver(before, table_.Chance.Draws - drawsBefore);

@@ -17,45 +17,41 @@ public:
     std::optional<int> Picture;  ///< the player whose marker the report bears
     bool ReportVisible = false;
     bool GameOverShown = false;
-    int Refreshes = 0;
     std::vector<std::string> Announcements;
-    std::vector<std::string> Calls;  ///< the names of all calls, in their order
+    std::string Calls;  ///< the names of all calls in their order, a blank before each
 
-    void RefreshMap() override {
-        Calls.emplace_back("RefreshMap");
-        ++Refreshes;
-    }
+    void RefreshMap() override { Calls += " RefreshMap"; }
     void SetCommands(CommandSet available) override {
-        Calls.emplace_back("SetCommands");
+        Calls += " SetCommands";
         Commands = available;
     }
     void SetBoardTitle(const std::string& title) override {
-        Calls.emplace_back("SetBoardTitle");
+        Calls += " SetBoardTitle";
         BoardTitle = title;
     }
     void ShowGameOver() override {
-        Calls.emplace_back("ShowGameOver");
+        Calls += " ShowGameOver";
         GameOverShown = true;
     }
-    void CloseDialogs() override { Calls.emplace_back("CloseDialogs"); }
+    void CloseDialogs() override { Calls += " CloseDialogs"; }
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override {
-        Calls.emplace_back("ShowReport");
+        Calls += " ShowReport";
         Shown = report;
         Picture = picturePlayer;
         ReportVisible = true;
     }
     void HideReport() override {
-        Calls.emplace_back("HideReport");
+        Calls += " HideReport";
         ReportVisible = false;
     }
     void CloseReport() override {
-        Calls.emplace_back("CloseReport");
+        Calls += " CloseReport";
         Shown = {};
         Picture.reset();
         ReportVisible = false;
     }
     void Announce(const std::string& text) override {
-        Calls.emplace_back("Announce");
+        Calls += " Announce";
         Announcements.push_back(text);
     }
 };

@@ -2,10 +2,11 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "tests/fuzz/read_game.h"
+#include "tests/fuzz/inputs.h"
 
+/// Compiled once for each check of inputs.h, which VORLUND_CHECK names.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string wrong = vorlund::WrongWithGame({reinterpret_cast<const char*>(data), size});
+    const std::string wrong = vorlund::VORLUND_CHECK({reinterpret_cast<const char*>(data), size});
     if (!wrong.empty()) {
         std::fprintf(stderr, "%s\n", wrong.c_str());
         std::abort();

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "actions/sell.h"
+#include "actions/transport.h"
+#include "actions/upgrade.h"
+#include "state/consistent.h"
+#include "tests/rules/scripted_random.h"
+#include "tests/rules/small_worlds.h"
+
+namespace vorlund {
+
+/// What an order has led to, in one text: what the player is told, or a word in brackets.
+struct Said {
+    std::string operator()(const Refusal& refusal) const { return refusal.Message; }
+    std::string operator()(const Report& report) const {
+        return report.Title + "|" + report.Headline + "|" + report.Body;
+    }
+    std::string operator()(const Moved& moved) const { return moved.StatusLine; }
+    std::string operator()(const Purchase& purchase) const { return purchase.Message; }
+    std::string operator()(const Beep&) const { return "(beep)"; }
+    std::string operator()(const Nothing&) const { return "(nothing)"; }
+    std::string operator()(const NoSurvivor&) const { return "(nobody is left)"; }
+};
+
+/// Anna has the turn and holds number 7 (factory, 10 troops, 3 tanks) and its neighbour 8 (defense, 5
+/// troops). Ben holds 9 (factory, 2 troops, 1 tank), another neighbour of 7, and 31; Cleo holds 20.
+inline GameState Front() {
+    GameState game = NewGame(3);
+    Give(game, 6, 0, 10, 3);
+    GiveFactory(game, 6);
+    Give(game, 7, 0, 5);
+    game.Territories[7].HasDefense = true;
+    Give(game, 8, 1, 2, 1);
+    GiveFactory(game, 8);
+    Give(game, 30, 1, 4);
+    Give(game, 19, 2, 1);
+    game.Players[0].Money = 500;
+    game.Players[0].Oil = 10;
+    game.Players[0].HasNuke = true;
+    return game;
+}
+
+using Setting = std::function<void(GameState&)>;
+
+/// An order on the front: what is typed, what is said, and what changes, which is nothing when it is refused.
+struct OrderRow {
+    const char* what;
+    std::vector<std::string> typed;
+    std::string said;
+    std::string changes = "";
+    Setting setup = [](GameState&) {};
+    std::vector<float> chance = {};
+};
+
+/// `order` takes the game, its chance and the row's entries.
+template <typename Order>
+void ExpectOrders(const std::vector<OrderRow>& rows, Order order) {
+    for (const OrderRow& row : rows) {
+        SCOPED_TRACE(row.what);
+        GameState game = Front();
+        row.setup(game);
+        const GameState before = game;
+        ScriptedRandom random(row.chance);
+        EXPECT_EQ(std::visit(Said{}, order(game, random, row.typed)), row.said);
+        EXPECT_EQ(Changes(before, game), row.changes);
+        EXPECT_EQ(game == before, row.changes.empty());
+        EXPECT_TRUE(Consistent(game));
+    }
+}
+
+inline Setting Money(std::int16_t dollars) {
+    return [dollars](GameState& game) { game.Players[0].Money = dollars; };
+}
+
+/// Takes territory index `t` with all that stands there from its owner.
+inline void Clear(GameState& game, int t) {
+    Player& owner = game.PlayerAt(game.TerritoryAt(t).Owner);
+    Add(owner.Troops, -game.TerritoryAt(t).Troops);
+    Add(owner.Tanks, -game.TerritoryAt(t).Tanks);
+    Abandon(game, t);
+    game.TerritoryAt(t).Troops = game.TerritoryAt(t).Tanks = 0;
+}
+
+}  // namespace vorlund
