@@ -316,9 +316,13 @@ bool Sitting::Ends(const std::function<void()>& deed) {
 }
 
 bool Sitting::eventFilter(QObject* watched, QEvent* event) {
-    if (auto* box = qobject_cast<QMessageBox*>(watched); box != nullptr && event->type() == QEvent::Show) {
+    auto* box = qobject_cast<QMessageBox*>(watched);
+    if (box != nullptr && event->type() == QEvent::Show) {
         QMetaObject::invokeMethod(
             box, [this, box] { Answer(*box); }, Qt::QueuedConnection);
+    } else if (box != nullptr && event->type() == QEvent::Hide) {
+        // A desktop gives the keyboard back to the box's owner; there is none here to do it.
+        QMetaObject::invokeMethod(box->parentWidget(), &QWidget::activateWindow, Qt::QueuedConnection);
     }
     return false;
 }
