@@ -21,7 +21,7 @@ frmLoad::frmLoad(Program& program)
     flb1_->setFont(FontOf(Face::Field));
     flb1_->setUniformItemSizes(true);
     flb1_->viewport()->installEventFilter(this);
-    lbl2->setBuddy(flb1_);
+    flb1_->setAccessibleName(lbl2->text());
     const std::array<const char*, 3> captions{"Load Game", "Delete Game", "Cancel"};
     const std::array<const char*, 3> keys{"Enter", "Delete", ""};
     for (int i = 0; i < 3; ++i) {

@@ -72,9 +72,9 @@ void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* ow
     if (!isVisible()) {
         PlaceOver(*this, *program_.screens().board(), frm3::ReportBottom);
     }
-    Present();
     setAccessibleName(lbl1_->text());
     setAccessibleDescription(lbl2_->text());
+    Present();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
