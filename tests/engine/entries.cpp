@@ -6,14 +6,10 @@
 namespace vorlund {
 namespace {
 
-constexpr std::array Nasty{
-    "",       " ",      "abc",       "0",          "-1",          "-0.4",  ".5",   "1.5",   "2.5",
-    "41.5",   "42.5",   "0.4",       "43",         "4e4",         "9e9",   "-9e9", "32767", "32768",
-    "-32768", "-32769", "1e3",       "1e-9",       "1e999",       "+3",    " 7 ",  "7 7",   "0x1F",
-    "inf",    "nan",    "1,5",       "1'0",        "--1",         "+-1",   "5.",   ".",     "e",
-    "1e",     "00042",  "\t1",       "1\n",        "\r",          "\"1\"", "١",    "½",     "2.4999",
-    "2.5001", "99",     "999",       "2147483648", "-2147483649", "3.9",   "-.5",  "42.49", "1e2e3",
-    "1E1",    "3e0",    "999999999", "0.999999",   "41.50000001", "-0"};
+constexpr std::array Nasty{"",     " ",   "abc", "0",    "-1",    "-0.4",  ".5",     "1.5", "2.5",  "41.5",
+                           "42.5", "43",  "4e4", "-9e9", "32767", "32768", "-32768", "1e3", "1e-9", "1e999",
+                           "+3",   " 7 ", "7 7", "0x1F", "inf",   "nan",   "1,5",    "--1", "+-1",  "5.",
+                           ".",    "1e",  "\t1", "1\n",  "\r",    "\"1\"", "½",      "99",  "3.9",  "-.5"};
 
 bool OneIn(int n, Random& hands) {
     return hands.Draw(n) == 0;
@@ -30,15 +26,11 @@ int OwnTerritory(const GameState& game, Random& hands) {
                        : own[static_cast<std::size_t>(hands.Draw(static_cast<int>(own.size())))];
 }
 
-}  // namespace
-
-std::span<const char* const> NastyEntries() {
-    return Nasty;
-}
-
 std::string NastyEntry(Random& hands) {
     return Nasty[static_cast<std::size_t>(hands.Draw(static_cast<int>(Nasty.size())))];
 }
+
+}  // namespace
 
 std::string TerritoryEntry(const GameState& game, Random& hands) {
     if (OneIn(8, hands)) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <span>
 #include <string>
 
 #include "state/game_state.h"
@@ -8,11 +7,8 @@
 
 namespace vorlund {
 
-// What a player of random temper types into the fields. Most of it makes sense.
-
-/// Entries that are hard to read as numbers, or hard to bear.
-std::span<const char* const> NastyEntries();
-std::string NastyEntry(Random& hands);
+// What a player of random temper types into the fields. Most of it makes sense, some is
+// no number or hard to bear.
 
 /// A territory's number: mostly one of the current player's.
 std::string TerritoryEntry(const GameState& game, Random& hands);

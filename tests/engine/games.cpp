@@ -24,11 +24,9 @@ std::int16_t Units(Random& hands, int most) {
 void Populate(GameState& game, Random& hands, int t) {
     Player& owner = game.PlayerAt(game.TerritoryAt(t).Owner);
     Territory& territory = game.TerritoryAt(t);
-    territory.Troops = Units(hands, hands.Draw(2) == 0 ? 6 : 60);
-    territory.Tanks = Units(hands, 8);
     // A human's totals are exact, so they bound what may stand on the map.
-    territory.Troops = ClampInt16(std::min(int{territory.Troops}, 32767 - owner.Troops));
-    territory.Tanks = ClampInt16(std::min(int{territory.Tanks}, 32767 - owner.Tanks));
+    territory.Troops = ClampInt16(std::min<int>(Units(hands, 60), 32767 - owner.Troops));
+    territory.Tanks = ClampInt16(std::min<int>(Units(hands, 8), 32767 - owner.Tanks));
     territory.HasFactory = hands.Draw(4) == 0;
     territory.HasDefense = hands.Draw(4) == 0;
     Add(owner.Troops, territory.Troops);
@@ -39,18 +37,14 @@ void Populate(GameState& game, Random& hands, int t) {
 void Equip(Player& player, Random& hands) {
     player.Money = ClampInt16(hands.Draw(5) == 0 ? hands.Draw(65536) - 32768 : hands.Draw(800));
     player.Oil = Units(hands, 100);
+    for (std::int16_t* const level : {&player.EconomyLevel, &player.WarfareLevel, &player.NuclearLevel}) {
+        *level = ClampInt16(hands.Draw(4));
+    }
     player.DebtTurns = ClampInt16(hands.Draw(3));
-    player.EconomyLevel = ClampInt16(hands.Draw(4));
-    player.WarfareLevel = ClampInt16(hands.Draw(4));
-    player.NuclearLevel = ClampInt16(hands.Draw(4));
     player.HasNuke = hands.Draw(3) == 0;
     player.FirstTurn = hands.Draw(6) == 0;
-    player.MovesLeft = 2;
-    player.AttacksLeft = 2;
-    if (player.IsComputer) {
-        Add(player.Troops, -hands.Draw(500));
-        Add(player.Tanks, -hands.Draw(50));
-    }
+    player.MovesLeft = player.AttacksLeft = 2;
+    Add(player.Troops, player.IsComputer ? -hands.Draw(500) : 0);
 }
 
 }  // namespace

@@ -1,16 +1,73 @@
 #include "tests/engine/hands.h"
 
-#include <utility>
-#include <vector>
-
+#include "actions/battle.h"
+#include "actions/buy.h"
+#include "actions/strike.h"
 #include "tests/engine/checks.h"
+#include "tests/engine/entries.h"
 #include "tests/engine/games.h"
+#include "tests/engine/said.h"
+#include "turn/victory.h"
 
 namespace vorlund {
 namespace {
 
-constexpr std::size_t StepsRemembered = 12;
 constexpr int LeastDrawsOfAComputer = 4;  // bomb, two directions, tank bonus
+
+/// `complaint` unless all is well.
+std::optional<std::string> Unless(bool well, const char* complaint) {
+    return well ? std::nullopt : std::optional<std::string>(complaint);
+}
+
+using Outcome = std::variant<Beep, Nothing, Refusal, Moved, Purchase, Report, NoSurvivor>;
+
+template <typename Narrower>
+Outcome Any(const Narrower& outcome) {
+    return std::visit([](const auto& one) { return Outcome(one); }, outcome);
+}
+
+Outcome Trade(bool buys, GameState& game, Random& mind, std::vector<std::string>& typed) {
+    const RouteEntries route = RandomRoute(game, mind);
+    const int money = std::max<int>(game.Current().Money, 0);
+    typed = {route.From, QuantityEntry(buys ? money / 20 : route.Troops, mind),
+             QuantityEntry(buys ? money / 80 : route.Tanks, mind),
+             QuantityEntry(buys ? money : game.Current().Oil, mind)};
+    const TradeEntries entries{typed[0], typed[1], typed[2], typed[3]};
+    return buys ? Any(Buy(game, entries)) : Any(Sell(game, entries));
+}
+
+Outcome Go(bool attacks, Table& table, Random& mind, std::vector<std::string>& typed) {
+    GameState& game = table.Game;
+    const RouteEntries route = RandomRoute(game, mind);
+    typed = {route.From, route.To, QuantityEntry(route.Troops, mind), QuantityEntry(route.Tanks, mind)};
+    if (!attacks) {
+        return Any(Tran(game, CanMove(game), {typed[0], typed[1], typed[2], typed[3]}));
+    }
+    if (mind.Draw(4) == 0) {
+        return Any(Strike(game, game.Current().HasNuke, typed[1]));
+    }
+    return Any(Attck(game, table.Chance, CanAttack(game), {typed[0], typed[1], typed[2], typed[3]}));
+}
+
+Outcome Upgrade(GameState& game, Random& mind, std::vector<std::string>& typed) {
+    const int choice = mind.Draw(5);
+    if (choice < 3) {
+        return Any(RaiseLevel(game, static_cast<Track>(choice)));
+    }
+    typed = {TerritoryEntry(game, mind)};
+    return Any(choice == 3 ? Fact(game, typed[0]) : Def(game, typed[0]));
+}
+
+/// Gives an order in the dialog with whatever entries come to mind.
+Outcome Order(Command dialog, Table& table, Random& mind, std::vector<std::string>& typed) {
+    if (dialog == Command::Buy || dialog == Command::Sell) {
+        return Trade(dialog == Command::Buy, table.Game, mind, typed);
+    }
+    if (dialog == Command::Transport || dialog == Command::Attack) {
+        return Go(dialog == Command::Attack, table, mind, typed);
+    }
+    return dialog == Command::Upgrade ? Upgrade(table.Game, mind, typed) : Nothing{};
+}
 
 }  // namespace
 
@@ -19,17 +76,15 @@ Hands::Hands(std::uint32_t seed)
     if (mind_.Draw(3) == 0) {
         table_.Game = RandomPosition(mind_);
         table_.Seen.SetCommands(AvailableCommands(table_.Game));
-        Remember("a position");
     } else {
         table_.Game = RandomNewGame(mind_, table_.Chance);
         table_.Turn.OpenFirstTurn();
-        Remember("a new game");
     }
 }
 
 std::optional<std::string> Hands::Step() {
     table_.Seen.Calls.clear();
-    std::optional<std::string> complaint;
+    Complaint complaint;
     if (table_.Game.GameOver) {
         complaint = AfterTheEnd();
     } else if (table_.Seen.ReportVisible && mind_.Draw(4) == 0) {
@@ -41,22 +96,11 @@ std::optional<std::string> Hands::Step() {
     } else {
         const Command command = AllCommands[static_cast<std::size_t>(mind_.Draw(NumCommands))];
         if (Available().Has(command) && command != Command::EndTurn) {
-            Open(command);
+            table_.Seen.SetCommands(CommandSet::None());
+            dialog_ = command;
         }
     }
     return complaint ? complaint : BrokenBoard();
-}
-
-void Hands::Remember(std::string step) {
-    steps_.push_back(std::move(step));
-    if (steps_.size() > StepsRemembered) {
-        steps_.pop_front();
-    }
-}
-
-void Hands::Open(Command command) {
-    table_.Seen.SetCommands(CommandSet::None());
-    dialog_ = command;
 }
 
 void Hands::CloseDialog() {
@@ -66,34 +110,37 @@ void Hands::CloseDialog() {
 
 std::optional<std::string> Hands::Act() {
     if (mind_.Draw(5) == 0) {
-        Remember("close the dialog");
         CloseDialog();
         return std::nullopt;
     }
+    if (*dialog_ == Command::Save) {
+        return BrokenSaving(table_.Game);
+    }
     const GameState before = table_.Game;
     const std::int64_t drawsBefore = table_.Chance.Draws;
-    const Deed deed = ActInDialog(*dialog_, table_, mind_);
-    Remember(deed.What + ": " + deed.Said);
-    if (deed.Closes) {
+    std::vector<std::string> typed;
+    const Outcome outcome = Order(*dialog_, table_, mind_, typed);
+    std::string step = "dialog " + std::to_string(static_cast<int>(*dialog_));
+    for (const std::string& entry : typed) {
+        step += " '" + entry + "'";
+    }
+    steps_.push_back(step + ": " + std::visit(Said{}, outcome));
+    const bool mayDraw = *dialog_ == Command::Attack && std::holds_alternative<Report>(outcome);
+    if (const auto* report = std::get_if<Report>(&outcome)) {
+        table_.Seen.ShowReport(*report, std::nullopt);
         CloseDialog();
-    }
-    if (deed.Said.empty()) {
-        return "nothing was said";
-    }
-    if (!deed.Done && table_.Game != before) {
+    } else if (std::holds_alternative<NoSurvivor>(outcome)) {
+        NobodyWins(table_.Game, table_.Seen);
+        CloseDialog();
+    } else if (!std::holds_alternative<Moved>(outcome) && !std::holds_alternative<Purchase>(outcome) &&
+               table_.Game != before) {
         return "a refused action has changed the game";
     }
-    if (table_.Chance.Draws != drawsBefore && !(deed.Done && deed.IsBattle)) {
-        return "an action without chance has drawn";
-    }
-    if (deed.What == "save" && deed.Said != "saved") {
-        return deed.Said;
-    }
-    return std::nullopt;
+    return Unless(mayDraw || table_.Chance.Draws == drawsBefore, "an action without chance has drawn");
 }
 
 std::optional<std::string> Hands::EndTurn() {
-    Remember("player " + std::to_string(table_.Game.CurrentPlayer + 1) + " ends the turn");
+    steps_.push_back("player " + std::to_string(table_.Game.CurrentPlayer + 1) + " ends the turn");
     const GameState before = table_.Game;
     const std::int64_t drawsBefore = table_.Chance.Draws;
     table_.Turn.EndTurn();
@@ -101,7 +148,7 @@ std::optional<std::string> Hands::EndTurn() {
 }
 
 std::optional<std::string> Hands::CloseReport() {
-    Remember("close the report");
+    steps_.emplace_back("close the report");
     const GameState before = table_.Game;
     const std::int64_t drawsBefore = table_.Chance.Draws;
     if (table_.Turn.ReportClosed()) {
@@ -111,41 +158,37 @@ std::optional<std::string> Hands::CloseReport() {
         return BrokenHandOver(before, table_.Chance.Draws - drawsBefore);
     }
     table_.Seen.CloseReport();
-    return table_.Game == before ? std::nullopt
-                                 : std::optional<std::string>("closing a report has changed the game");
+    return Unless(table_.Game == before, "closing a report has changed the game");
 }
 
 std::optional<std::string> Hands::AfterTheEnd() {
     dialog_.reset();
     const GameState before = table_.Game;
-    if (table_.Turn.ReportClosed() || table_.Game != before) {
-        return "the game went on after its end";
-    }
+    const bool stays = table_.Turn.ReportClosed();
     table_.Seen.CloseReport();
-    return std::nullopt;
+    return Unless(!stays && table_.Game == before, "the game went on after its end");
 }
 
 std::optional<std::string> Hands::BrokenHandOver(const GameState& before, std::int64_t draws) const {
+    const GameState& game = table_.Game;
+    const Player& player = game.Current();
     if (Available() != CommandSet::None()) {
         return "commands are available before the report is closed";
     }
-    const Player& player = table_.Game.Current();
-    if (table_.Game.GameOver) {
-        const bool right = table_.Game.DeadPlayers == table_.Game.NumPlayers - 1 && !player.IsDead &&
-                           table_.Seen.Announcements.size() == 1 && table_.Seen.GameOverShown;
-        return right ? std::nullopt : std::optional<std::string>("the game ended wrongly");
+    if (game.GameOver) {
+        const bool oneIsLeft = game.DeadPlayers == game.NumPlayers - 1 && !player.IsDead;
+        return Unless(oneIsLeft && table_.Seen.Announcements.size() == 1 && table_.Seen.GameOverShown &&
+                          table_.Seen.BoardTitle == "Vorlund - " + player.Name + " wins",
+                      "the game ended wrongly");
     }
-    if (!table_.Seen.ReportVisible || table_.Seen.Picture != table_.Game.CurrentPlayer) {
+    if (!table_.Seen.ReportVisible || table_.Seen.Picture != game.CurrentPlayer) {
         return "the turn's report is not on screen";
     }
-    if (before.CurrentPlayer == table_.Game.CurrentPlayer) {
-        return "the turn stays where it was";
+    if (before.CurrentPlayer == game.CurrentPlayer || player.IsComputer != game.ComputerTurnEnded) {
+        return "the report belongs to the wrong player";
     }
-    if (player.IsComputer != table_.Game.ComputerTurnEnded) {
-        return "the report belongs to the wrong kind of player";
-    }
-    const bool rightDraws = player.IsComputer ? draws >= LeastDrawsOfAComputer : draws == 1;
-    return rightDraws ? std::nullopt : std::optional<std::string>("the turn has made the wrong draws");
+    return Unless(player.IsComputer ? draws >= LeastDrawsOfAComputer : draws == 1,
+                  "the turn has made the wrong draws");
 }
 
 std::optional<std::string> Hands::BrokenBoard() const {
@@ -155,10 +198,9 @@ std::optional<std::string> Hands::BrokenBoard() const {
     if (auto complaint = BrokenCommands(table_.Game, Available())) {
         return complaint;
     }
-    const bool deadEnd =
-        !table_.Game.GameOver && !dialog_ && !table_.Seen.ReportVisible && Available() == CommandSet::None();
-    return deadEnd ? std::optional<std::string>("nothing is left to do, and the game is not over")
-                   : std::nullopt;
+    return Unless(
+        table_.Game.GameOver || dialog_ || table_.Seen.ReportVisible || Available() != CommandSet::None(),
+        "nothing is left to do, and the game is not over");
 }
 
 }  // namespace vorlund

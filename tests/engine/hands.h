@@ -1,12 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "tests/engine/deeds.h"
-#include "tests/engine/seeded_random.h"
 #include "tests/engine/table.h"
 #include "turn/commands.h"
 
@@ -24,28 +22,27 @@ public:
     std::optional<std::string> Step();
 
     const GameState& Game() const { return table_.Game; }
-    bool SomebodyWon() const { return table_.Seen.GameOverShown; }
 
-    /// The last few steps, oldest first.
-    const std::deque<std::string>& LastSteps() const { return steps_; }
+    /// What was done so far, oldest first.
+    const std::vector<std::string>& Steps() const { return steps_; }
 
 private:
-    void Remember(std::string step);
-    void Open(Command command);
+    using Complaint = std::optional<std::string>;
+
+    Complaint Act();
     void CloseDialog();
-    std::optional<std::string> Act();
-    std::optional<std::string> EndTurn();
-    std::optional<std::string> CloseReport();
-    std::optional<std::string> AfterTheEnd();
-    std::optional<std::string> BrokenHandOver(const GameState& before, std::int64_t draws) const;
-    std::optional<std::string> BrokenBoard() const;
+    Complaint EndTurn();
+    Complaint CloseReport();
+    Complaint AfterTheEnd();
+    Complaint BrokenHandOver(const GameState& before, std::int64_t draws) const;
+    Complaint BrokenBoard() const;
     CommandSet Available() const { return table_.Seen.Commands.value_or(CommandSet::None()); }
 
     SeededRandom mind_;
     Table table_;
     int restlessness_;  ///< one in so many thoughts is of ending the turn
     std::optional<Command> dialog_;
-    std::deque<std::string> steps_;
+    std::vector<std::string> steps_;
 };
 
 }  // namespace vorlund

@@ -8,27 +8,12 @@
 #include <variant>
 #include <vector>
 
-#include "actions/sell.h"
-#include "actions/transport.h"
-#include "actions/upgrade.h"
 #include "state/consistent.h"
+#include "tests/engine/said.h"
 #include "tests/rules/scripted_random.h"
 #include "tests/rules/small_worlds.h"
 
 namespace vorlund {
-
-/// What an order has led to, in one text: what the player is told, or a word in brackets.
-struct Said {
-    std::string operator()(const Refusal& refusal) const { return refusal.Message; }
-    std::string operator()(const Report& report) const {
-        return report.Title + "|" + report.Headline + "|" + report.Body;
-    }
-    std::string operator()(const Moved& moved) const { return moved.StatusLine; }
-    std::string operator()(const Purchase& purchase) const { return purchase.Message; }
-    std::string operator()(const Beep&) const { return "(beep)"; }
-    std::string operator()(const Nothing&) const { return "(nothing)"; }
-    std::string operator()(const NoSurvivor&) const { return "(nobody is left)"; }
-};
 
 /// Anna has the turn and holds number 7 (factory, 10 troops, 3 tanks) and its neighbour 8 (defense, 5
 /// troops). Ben holds 9 (factory, 2 troops, 1 tank), another neighbour of 7, and 31; Cleo holds 20.
@@ -53,7 +38,7 @@ using Setting = std::function<void(GameState&)>;
 /// An order on the front: what is typed, what is said, and what changes, which is nothing when it is refused.
 struct OrderRow {
     const char* what;
-    std::vector<std::string> typed;
+    const char* typed;  ///< with a comma between the fields
     std::string said;
     std::string changes = "";
     Setting setup = [](GameState&) {};
@@ -69,15 +54,23 @@ void ExpectOrders(const std::vector<OrderRow>& rows, Order order) {
         row.setup(game);
         const GameState before = game;
         ScriptedRandom random(row.chance);
-        EXPECT_EQ(std::visit(Said{}, order(game, random, row.typed)), row.said);
+        std::vector<std::string> typed(1);
+        for (const char* c = row.typed; *c != 0; ++c) {
+            *c == ',' ? typed.emplace_back() : typed.back() += *c;
+        }
+        EXPECT_EQ(std::visit(Said{}, order(game, random, typed)), row.said);
         EXPECT_EQ(Changes(before, game), row.changes);
         EXPECT_EQ(game == before, row.changes.empty());
         EXPECT_TRUE(Consistent(game));
     }
 }
 
+inline Setting Anna(std::int16_t Player::*field, std::int16_t value) {
+    return [=](GameState& game) { game.Players[0].*field = value; };
+}
+
 inline Setting Money(std::int16_t dollars) {
-    return [dollars](GameState& game) { game.Players[0].Money = dollars; };
+    return Anna(&Player::Money, dollars);
 }
 
 /// Takes territory index `t` with all that stands there from its owner.

@@ -187,6 +187,14 @@ TEST(EndTurn, GivesTheNextHumanEverythingButTheCommands) {
     EXPECT_EQ(play.Seen.Commands, CommandSet::None());
     EXPECT_FALSE(play.Turn.ReportClosed());
     EXPECT_EQ(play.Seen.Commands, CommandSet::All().Without(Command::Attack));
+
+    Play first(game, {NoResearch});
+    first.Game.Players[0].MovesLeft = 0;
+    first.Turn.OpenFirstTurn();
+    EXPECT_EQ(Changes(game, first.Game), "Anna Money 39");
+    EXPECT_EQ(first.Seen.Shown.Headline, "Upkeep status for Player 1, Anna.");
+    EXPECT_EQ(first.Seen.Picture, std::nullopt);
+    EXPECT_EQ(first.Seen.BoardTitle, "Vorlund - Anna's turn");
 }
 
 TEST(EndTurn, AnnouncesTheLastOneAliveWhoeverItIs) {
@@ -233,13 +241,10 @@ TEST(ReportClosed, GivesTheLastButOneWhoCollapsedTheEndOfTheTurn) {
     EXPECT_EQ(play.Seen.Commands, CommandSet::Only(Command::EndTurn));
     play.Turn.EndTurn();
     EXPECT_EQ(play.Seen.Announcements, std::vector<std::string>{"Player 1, Anna, you win the game!"});
-}
 
-TEST(ReportClosed, LeavesTheCommandsAloneWhenTheLastOpponentHasFallen) {
-    GameState game = OneTerritoryEach();
-    Abandon(game, 41);
-    Bury(game, 1);
-    Play play(game, {});
+    // The one who has beaten the last opponent keeps the commands as they are.
+    play.Game.GameOver = false;
+    play.Seen.Calls.clear();
     EXPECT_FALSE(play.Turn.ReportClosed());
     EXPECT_EQ(play.Seen.Calls, "");
 }
@@ -273,16 +278,6 @@ TEST(ReportClosed, HandsFromComputerToComputerAndOnToTheNextHuman) {
     EXPECT_EQ(play.Seen.Calls, " CloseDialogs SetCommands SetBoardTitle RefreshMap ShowReport");
     EXPECT_FALSE(play.Turn.ReportClosed());
     EXPECT_EQ(play.Seen.Commands, CommandSet::All());
-}
-
-TEST(OpenFirstTurn, ShowsTheUpkeepWithoutPicture) {
-    Play play(OneTerritoryEach(), {NoResearch});
-    play.Game.Players[0].MovesLeft = 0;
-    play.Turn.OpenFirstTurn();
-    EXPECT_EQ(play.Seen.Shown.Title, "Vorlund - Upkeep");
-    EXPECT_EQ(play.Seen.Picture, std::nullopt);
-    EXPECT_EQ(play.Seen.BoardTitle, "Vorlund - Anna's turn");
-    EXPECT_EQ(play.Game.Players[0].MovesLeft, 2);
 }
 
 }  // namespace
