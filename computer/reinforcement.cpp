@@ -35,7 +35,8 @@ void ReinforceQuietBorder(Territory& territory, Random& random) {
     }
 }
 
-void ReinforceBorders(const GameState& game, Random& random, Territory& territory, int share, bool tankBonus) {
+void ReinforceBorders(const GameState& game, Random& random, Territory& territory, int share,
+                      bool tankBonus) {
     for (const std::int16_t neighbour : territory.Neighbours) {
         if (neighbour == NoNeighbour) {
             continue;
