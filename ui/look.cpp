@@ -91,6 +91,9 @@ QPixmap LoadPicture(const QString& name, qreal ratio) {
         return {stem + QStringLiteral(".png")};
     }
     QPixmap picture(stem + QStringLiteral("@2x.png"));
+    if (picture.isNull()) {
+        return picture;  // a screen without a background, such as the title's
+    }
     // In between two scales the finer picture is brought to the device's own pixels once, not at every paint.
     picture.setDevicePixelRatio(1.0);
     if (ratio != 2.0) {

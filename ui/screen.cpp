@@ -1,8 +1,6 @@
 #include "ui/screen.h"
 
-#include <QApplication>
 #include <QCloseEvent>
-#include <QFrame>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -73,21 +71,18 @@ CommandLabel* Screen::AddCommand(const QString& name, const QString& caption, co
 }
 
 void Screen::AddLine(const QString& name, QPoint from, int length) {
-    auto* line = new QFrame(this);
+    auto* line = new QWidget(this);
     line->setObjectName(name);
     line->setGeometry(QRect(from, QSize(length, 1)));
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Plain);
     QPalette ink = line->palette();
-    ink.setColor(QPalette::WindowText, QColor(96, 112, 140));
+    ink.setColor(QPalette::Window, QColor(96, 112, 140));
     line->setPalette(ink);
+    line->setAutoFillBackground(true);
     line->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void Screen::closeEvent(QCloseEvent* event) {
-    // A box that waits for its answer comes first, whoever asks.
-    const bool boxIsUp = QApplication::activeModalWidget() != nullptr;
-    event->setAccepted(outright_ || (!boxIsUp && CloseRequested()));
+    event->setAccepted(outright_ || CloseRequested());
 }
 
 void Screen::mouseMoveEvent(QMouseEvent* event) {
