@@ -46,68 +46,48 @@ std::string Figures(int upkeep, int barrels, int income) {
 TEST(Upkeep, BooksAndReports) {
     struct Row {
         const char* what;
-        Setting setup;
+        std::int16_t money;
+        std::int16_t debtTurns;
         std::string changes;
         std::string body;
+        Setting setup = [](GameState&) {};
         float research = NoResearch;
     };
     const std::string found = "Your nuclear development team has researched a nuclear bomb.\r\r";
     const std::string debt = "Your economy is in debt- economic unrest spreads through your land.\r";
     const std::string collapse = "Your territories collapse due to prolonged periods of lack of funds.";
     const std::vector<Row> rows{
-        {"four territories, an oil field and Economy level 2; a share of a dollar is cut off",
+        {"four territories, an oil field and Economy level 2; a share of a dollar is cut off", 100, 0,
+         "Anna Money 265 Oil 12", Figures(22, 3, 187),
          [](GameState& g) {
-             Give(g, 0, 0, 10, 3);
-             Give(g, 2, 0, 0);
-             Give(g, 3, 0, 0);
-             GiveFactory(g, 0);
-             GiveFactory(g, 1);
+             Give(g, 0, 0, 10, 3), Give(g, 2, 0, 0), Give(g, 3, 0, 0);
+             GiveFactory(g, 0), GiveFactory(g, 1);
              g.Players[0].EconomyLevel = 2;
-             g.Players[0].Money = 100;
-         },
-         "Anna Money 265 Oil 12", Figures(22, 3, 187)},
-        {"missing oil is settled in money, the debt is counted",
+         }},
+        {"missing oil is settled in money, the debt is counted", -34, 0, "Anna Money -2 DebtTurns 1",
+         Figures(0, 7, 39) + debt, [](GameState& g) { Give(g, 1, 0, 0, 7); }},
+        {"two turns in debt do not yet matter when money is there", -39, 2, "Anna Money 0",
+         Figures(0, 0, 39)},
+        {"the third turn in debt takes everything but the totals", -31, 2,
+         "2 nobody 0/0; Anna Money -1 DebtTurns 3 IsDead 1", Figures(9, 0, 39) + debt + collapse,
          [](GameState& g) {
-             g.Players[0].Money = -34;
-             Give(g, 1, 0, 0, 7);
-         },
-         "Anna Money -2 DebtTurns 1", Figures(0, 7, 39) + debt},
-        {"two turns in debt do not yet matter when money is there",
-         [](GameState& g) {
-             g.Players[0].Money = -39;
-             g.Players[0].DebtTurns = 2;
-         },
-         "Anna Money 0", Figures(0, 0, 39)},
-        {"the third turn in debt takes everything but the totals",
-         [](GameState& g) {
-             Give(g, 1, 0, 4, 0);
-             GiveFactory(g, 1);
+             Give(g, 1, 0, 4, 0), GiveFactory(g, 1);
              g.Territories[1].HasDefense = true;
-             g.Players[0].Money = -31;
-             g.Players[0].DebtTurns = 2;
-         },
-         "2 nobody 0/0; Anna Money -1 DebtTurns 3 IsDead 1", Figures(9, 0, 39) + debt + collapse},
-        {"sums stop at the upper end of the fields",
-         [](GameState& g) {
-             Give(g, 0, 0, 0);
-             g.Players[0].Money = 32760;
-             g.Players[0].Oil = 32760;
-         },
-         "Anna Money 32767 Oil 32767", Figures(0, 0, 78)},
-        {"and at the lower end",
-         [](GameState& g) {
-             g.Players[0].Money = -32000;
-             g.Players[0].Troops = 32767;
-         },
-         "Anna Money -32768 DebtTurns 1", Figures(32767, 0, 39) + debt},
-        {"research finds a bomb", [](GameState&) {}, "Anna Money 39 HasNuke 1", Figures(0, 0, 39) + found,
-         For(2, 13)},
-        {"but never a second one", [](GameState& g) { g.Players[0].HasNuke = true; }, "Anna Money 39",
-         Figures(0, 0, 39), For(2, 13)},
+         }},
+        {"sums stop at the upper end of the fields", 32760, 0, "Anna Money 32767 Oil 32767",
+         Figures(0, 0, 78), [](GameState& g) { Give(g, 0, 0, 0), g.Players[0].Oil = 32760; }},
+        {"and at the lower end", -32000, 0, "Anna Money -32768 DebtTurns 1", Figures(32767, 0, 39) + debt,
+         [](GameState& g) { g.Players[0].Troops = 32767; }},
+        {"research finds a bomb", 0, 0, "Anna Money 39 HasNuke 1", Figures(0, 0, 39) + found,
+         [](GameState&) {}, For(2, 13)},
+        {"but never a second one", 0, 0, "Anna Money 39", Figures(0, 0, 39),
+         [](GameState& g) { g.Players[0].HasNuke = true; }, For(2, 13)},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         GameState game = OneTerritoryEach();
+        game.Players[0].Money = row.money;
+        game.Players[0].DebtTurns = row.debtTurns;
         row.setup(game);
         const GameState before = game;
         ScriptedRandom random({row.research});
