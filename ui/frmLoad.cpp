@@ -44,7 +44,9 @@ void frmLoad::FillList() {
         auto* item = new QListWidgetItem(QString::fromStdString(file), flb1_);
         item->setData(Qt::UserRole, QByteArray::fromStdString(file));
     }
-    flb1_->setCurrentItem(nullptr);
+    // Said to the view itself: otherwise the keyboard's coming makes the first game the current one without
+    // selecting it, and an arrow key would step over it.
+    flb1_->setCurrentIndex({});
 }
 
 std::optional<std::string> frmLoad::Selected() const {
