@@ -322,7 +322,14 @@ bool Sitting::eventFilter(QObject* watched, QEvent* event) {
             box, [this, box] { Answer(*box); }, Qt::QueuedConnection);
     } else if (box != nullptr && event->type() == QEvent::Hide) {
         // A desktop gives the keyboard back to the box's owner; there is none here to do it.
-        QMetaObject::invokeMethod(box->parentWidget(), &QWidget::activateWindow, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            box->parentWidget(),
+            [owner = box->parentWidget()] {
+                if (QApplication::activeModalWidget() == nullptr) {
+                    owner->activateWindow();
+                }
+            },
+            Qt::QueuedConnection);
     }
     return false;
 }
