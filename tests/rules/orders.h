@@ -73,13 +73,18 @@ inline Setting Money(std::int16_t dollars) {
     return Anna(&Player::Money, dollars);
 }
 
+/// Makes these the units of territory index `t`; the owner's totals follow.
+inline void Station(GameState& game, int t, int troops, int tanks = 0) {
+    const Territory was = game.TerritoryAt(t);
+    Give(game, t, was.Owner, troops, tanks);
+    Add(game.PlayerAt(was.Owner).Troops, -was.Troops);
+    Add(game.PlayerAt(was.Owner).Tanks, -was.Tanks);
+}
+
 /// Takes territory index `t` with all that stands there from its owner.
 inline void Clear(GameState& game, int t) {
-    Player& owner = game.PlayerAt(game.TerritoryAt(t).Owner);
-    Add(owner.Troops, -game.TerritoryAt(t).Troops);
-    Add(owner.Tanks, -game.TerritoryAt(t).Tanks);
+    Station(game, t, 0);
     Abandon(game, t);
-    game.TerritoryAt(t).Troops = game.TerritoryAt(t).Tanks = 0;
 }
 
 }  // namespace vorlund

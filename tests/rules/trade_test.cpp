@@ -58,7 +58,7 @@ TEST(Orders, Sell) {
     const std::string total = "        Total money gained: $";
     const auto lastLand = [](GameState& game) {
         Clear(game, 7);
-        game.Territories[6].Tanks = game.Players[0].Tanks = 0;
+        Station(game, 6, 10);
     };
     const std::vector<OrderRow> rows{
         {"everything, cut down", "7,4.5,2,7",

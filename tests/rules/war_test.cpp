@@ -91,21 +91,19 @@ TEST(Orders, Attack) {
          "7 Anna 10/2 F; 9 Ben 0/1 F; Anna Tanks 2 AttacksLeft 1; Ben Tanks 1",
          [](GameState& game) {
              game.Players[0].WarfareLevel = 3;
-             Give(game, 8, 1, 0, 2);
-             game.Players[1].Tanks = 2;
+             Station(game, 8, 0, 2);
          },
          Rolls(9, {5, 6, 0, 1, 8, 2, 3, 7})},
         {"with all units, which gives the territory up, against nobody", "7,9,10,3",
          won + Losses(Ours, 0, 0) + Losses(Theirs, 0, 0),
          "7 nobody 0/0; 9 Anna 10/3; Anna Factories 0 AttacksLeft 1; Ben Factories 0",
-         [](GameState& game) { game.Territories[8].Troops = game.Territories[8].Tanks = 0; }},
+         [](GameState& game) { Station(game, 8, 0); }},
         {"lost with the last unit of all", "7,9,1,",
          lost + Losses(Ours, 1, 0) + Losses(Theirs, 0, 0) + Killed,
          "7 nobody 0/0; Anna Troops 0 Factories 0 AttacksLeft 1 IsDead 1",
          [](GameState& game) {
              Clear(game, 7);
-             game.Territories[6].Troops = game.Players[0].Troops = 1;
-             game.Territories[6].Tanks = game.Players[0].Tanks = 0;
+             Station(game, 6, 1);
          },
          Rolls(12, {6})},
         {"won over a defender's last territory", "7,9,1,",
@@ -113,8 +111,7 @@ TEST(Orders, Attack) {
          "7 Anna 9/3 F; 9 Anna 1/0; Anna AttacksLeft 1; Ben Troops 0 Factories 0 IsDead 1",
          [](GameState& game) {
              Clear(game, 30);
-             game.Territories[8].Troops = game.Players[1].Troops = 1;
-             game.Territories[8].Tanks = game.Players[1].Tanks = 0;
+             Station(game, 8, 1);
          },
          Rolls(12, {5})},
         {"territories are rounded to even, troops cut down", "6.6,8.5,1.9,",
@@ -158,8 +155,8 @@ TEST(Orders, Strike) {
         {"half of the troops and a quarter of the tanks, cut down", "8.5",
          "Vorlund - Nuclear Strike Results|Your nuclear attack upon Mexico was successful.|Casualties for "
          "Player 2, Ben:\r        Troops: 3\r        Tanks: 2\r\r",
-         "9 Ben 4/7 F; Anna HasNuke 0; Ben Troops 10 Tanks 8",
-         [](GameState& game) { Give(game, 8, 1, 7, 9); }},
+         "9 Ben 4/7 F; Anna HasNuke 0; Ben Troops 8 Tanks 7",
+         [](GameState& game) { Station(game, 8, 7, 9); }},
         {"without a bomb", "9", "(beep)", "", [](GameState& game) { game.Players[0].HasNuke = false; }},
         {"nothing typed", "", "Enter a number 1-42 for the country to nuke."},
         {"letters", "42x", range},
