@@ -1,6 +1,7 @@
 #include "tests/fuzz/inputs.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <variant>
@@ -88,8 +89,9 @@ std::string WrongWithNumber(std::string_view text) {
     if (!IsNumber(text)) {
         return read ? "a text that is no number was read as one" : "";
     }
-    // The tests run in the "C" locale, where strtod reads the same digits.
-    const double expected = std::strtod(std::string(text).c_str(), nullptr);
+    // In the "C" locale strtod reads the same digits, whatever locale the tests run under.
+    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+    const double expected = strtod_l(std::string(text).c_str(), nullptr, plain);
     if (!read) {
         // Out of range is a reason: too large, or so small that it is not a normal number.
         const bool unholdable = std::isinf(expected) || std::fpclassify(expected) != FP_NORMAL;
