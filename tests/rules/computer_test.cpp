@@ -96,6 +96,20 @@ TEST(ComputerTurn, WinsInTheMiddleOfItsAttacks) {
               " CloseReport SetBoardTitle ShowGameOver RefreshMap ShowReport SetBoardTitle Announce");
 }
 
+TEST(ComputerTurn, HasNoLuckWithASecondClaimAmongFour) {
+    GameState game = ComputerToMove(4, 0);
+    Give(game, 26, 0, 1);  // South Africa, next to 25 alone, which borders 24
+    GiveFactory(game, 26);
+    for (const int p : {1, 2, 3}) {
+        Give(game, 30 + p, p, 1);
+    }
+    ScriptedRandom random(
+        {NoBomb, For(1, 3), For(1, 5), Forward, Forward, NoDefense, For(77, 78), For(3, 7), For(5, 7)});
+    Recorder seen;
+    ComputerTurn(game, random, seen);
+    EXPECT_EQ(seen.Shown.Body, "Moved forces into Southern Africa.\r");
+}
+
 TEST(ComputerTurn, BuildsItsFreeFactoryWhereItIsStrongest) {
     struct Row {
         const char* what;

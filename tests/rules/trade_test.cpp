@@ -25,9 +25,9 @@ TEST(Orders, Buy) {
         {"oil for all the money, wherever", "none,,,1500",
          title + "You bought 1500 oil barrels for $500.\r\r        Total spent: $500",
          "Anna Money 0 Oil 1510"},
-        {"fractions are cut off, what is negative is left out", "7.4,2.9,-3,2.9",
-         title + "You bought 2 Troops for $20 in Midwest USA.\r        Total spent: $20",
-         "7 Anna 12/3 F; Anna Money 480 Troops 17"},
+        {"fractions are cut off, what is negative is left out", "7.4,-3,2.9,2.9",
+         title + "You bought 2 Tanks for $80 in Midwest USA.\r        Total spent: $80",
+         "7 Anna 10/5 F; Anna Money 420 Tanks 5"},
         {"nothing entered", ",,,", NoTransaction},
         {"negative units for nowhere", ",-3,-2,", "To buy Troops" + OutOfRange},
         {"half a troop", "7,0.5,,", NoTransaction},
@@ -67,9 +67,9 @@ TEST(Orders, Sell) {
              "You sold 6 oil barrels for $2.\r\r" +
              total + "90\r\r",
          "7 Anna 6/1 F; Anna Money 590 Oil 4 Troops 11 Tanks 1"},
-        {"oil alone, wherever, even where nothing stands", "1,0.5,-1,6",
-         title + "You sold 6 oil barrels for $2.\r\r" + total + "2\r\r", "Anna Money 502 Oil 4",
-         [](GameState& game) { Claim(game, 0, 0); }},
+        {"all the oil, wherever, even where nothing stands", "1,0.5,-1,9",
+         title + "You sold 9 oil barrels for $3.\r\r" + total + "3\r\r", "Anna Money 503 Oil 0",
+         [](GameState& game) { Claim(game, 0, 0), game.Players[0].Oil = 9; }},
         {"all units, which gives the territory up", "7,10,3,",
          title + ten + "You sold 3 Tanks for $90 in Midwest USA.\r" + total + "160\r\r",
          "7 nobody 0/0; Anna Money 660 Troops 5 Tanks 0 Factories 0"},
@@ -119,7 +119,8 @@ TEST(Orders, BuildAndUpgrade) {
     };
     ExpectOrders(factories, [](GameState& game, Random&, const auto& typed) { return Fact(game, typed[0]); });
     const std::vector<OrderRow> defenses{
-        {"a defense", "7", "Defense built in Midwest USA.\r", "7 Anna 10/3 FD; Anna Money 400"},
+        {"a defense for all the money", "7", "Defense built in Midwest USA.\r",
+         "7 Anna 10/3 FD; Anna Money 0", Money(100)},
         {"number 43", "43", "Building defense" + noNumber},
         {"another player's", "9", taken + "defense."},
         {"a dollar short", "7", poor + "Defense requires $100.", "", Money(99)},
