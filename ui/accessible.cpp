@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
-#include <QFrame>
 
 #include "ui/command_label.h"
 #include "ui/frmReport.h"
@@ -73,9 +72,6 @@ QAccessibleInterface* Describe(const QString&, QObject* object) {
     }
     if (auto* picture = dynamic_cast<PictureLabel*>(object)) {
         return new QAccessibleWidget(picture, QAccessible::Graphic);
-    }
-    if (object->metaObject() == &QFrame::staticMetaObject) {  // a line between two groups
-        return new QAccessibleWidget(static_cast<QFrame*>(object), QAccessible::Separator);
     }
     return nullptr;
 }

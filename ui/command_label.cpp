@@ -70,7 +70,7 @@ void CommandLabel::PaintPlate(QPainter& painter) const {
     painter.drawRoundedRect(plate, CornerRadius, CornerRadius);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(255, 176, 32), 1.6));
+        painter.setPen(QPen(QColor(colour::Focus), 1.6));
         painter.drawRoundedRect(plate.adjusted(1, 1, -1, -1), CornerRadius - 1, CornerRadius - 1);
     }
 }

@@ -19,7 +19,7 @@ void ComputerToggle::paintEvent(QPaintEvent*) {
     const QColor ink = isChecked()    ? QColor(10, 14, 40)
                        : underMouse() ? QColor(colour::Hover)
                                       : QColor(150, 160, 190);
-    painter.setPen(QPen(hasFocus() ? QColor(255, 176, 32) : QColor(120, 130, 160), 1.4));
+    painter.setPen(QPen(hasFocus() ? QColor(colour::Focus) : QColor(120, 130, 160), 1.4));
     painter.setBrush(isChecked() ? QColor(120, 220, 120) : QColor(14, 18, 34));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
     // A screen on a foot over a keyboard

@@ -15,6 +15,7 @@ namespace colour {
 inline constexpr QRgb Rest = qRgb(0, 0, 192);         ///< a command at rest
 inline constexpr QRgb Hover = qRgb(128, 128, 255);    ///< the pointer is over it
 inline constexpr QRgb Pressed = qRgb(192, 192, 255);  ///< a mouse button went down on it
+inline constexpr QRgb Focus = qRgb(255, 176, 32);     ///< the ring round what has the keyboard
 inline constexpr QRgb Caption = qRgb(255, 255, 255);
 inline constexpr QRgb Status = qRgb(0, 128, 128);
 inline constexpr QRgb Heading = qRgb(0, 255, 0);

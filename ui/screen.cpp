@@ -1,5 +1,6 @@
 #include "ui/screen.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -10,6 +11,7 @@ namespace vorlund {
 namespace {
 
 constexpr int FieldHeight = 19;
+constexpr int FocusRing = 3;  // pixels round a field
 
 constexpr auto FixedSizeWindow = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                  Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
@@ -27,6 +29,13 @@ Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize 
     QPalette black = palette();
     black.setColor(QPalette::Window, colour::Window);
     setPalette(black);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+        for (const QWidget* changed : {before, now}) {
+            if (changed != nullptr && changed->parentWidget() == this) {
+                update(changed->geometry().adjusted(-FocusRing, -FocusRing, FocusRing, FocusRing));
+            }
+        }
+    });
 }
 
 void Screen::CloseOutright() {
@@ -108,6 +117,19 @@ void Screen::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), QColor(colour::Window));
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, background_.At(devicePixelRatioF()));
+    PaintFocusRing(painter);
+}
+
+void Screen::PaintFocusRing(QPainter& painter) const {
+    const QWidget* focus = focusWidget();
+    // Commands and toggles have a ring of their own, and the window none.
+    if (focus == nullptr || focus == this || !focus->hasFocus() ||
+        qobject_cast<const QAbstractButton*>(focus) != nullptr) {
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(colour::Focus), 1.6));
+    painter.drawRoundedRect(QRectF(focus->geometry()).adjusted(-2, -2, 2, 2), 3, 3);
 }
 
 void PlaceOver(QWidget& window, const QWidget& owner, int bottom) {

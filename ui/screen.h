@@ -10,6 +10,8 @@
 #include "ui/picture.h"
 #include "ui/text_label.h"
 
+class QPainter;
+
 namespace vorlund {
 
 /// What all windows of the game have in common: a fixed size, a background picture on black, labels, fields
@@ -55,6 +57,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void PaintFocusRing(QPainter& painter) const;
     void RestCommands(const CommandLabel* except = nullptr);
 
     Picture background_;
