@@ -24,9 +24,9 @@ QStringList Tabs() {
         stops << Focus();
         const QWidget& here = *QApplication::focusWidget();
         const QRect around = here.geometry().adjusted(-3, -3, 3, 3);
-        const QImage with = Painted(*here.window()).copy(around);
+        const QImage with = here.window()->grab(around).toImage();
         Sitting::Press(Qt::Key_Tab);
-        if (!here.isWindow() && Painted(*here.window()).copy(around) == with) {
+        if (!here.isWindow() && here.window()->grab(around).toImage() == with) {
             stops.back() += "(not seen)";
         }
     } while (Focus() != first && stops.size() < 20);
@@ -64,6 +64,26 @@ void Order(char key, const QString& window, const QStringList& fields, const QSt
     Sitting::Press(Qt::Key_Escape);
     QVERIFY2(!Sitting::IsOpen(window) && !Sitting::IsOpen("frmReport"), qPrintable(window));
     QCOMPARE(Sitting::Commands(), "bsrautev");
+}
+
+// In a second run of the program: the game is nearly deleted, then loaded.
+void LoadIt(const QString& saves, GameState saved) {
+    Sitting sitting(NoLuck(), saves);
+    Sitting::Type("\t\n");
+    Sitting::Window("frmLoad");
+    QCOMPARE(Tabs(), QStringList({"flb1", "lblGo(0)", "lblGo(1)", "lblGo(2)"}));
+    Sitting::Press(Qt::Key_Escape);
+    Sitting::Press(Qt::Key_Down);
+    sitting.Expect({QMessageBox::NoIcon,
+                    "Are you sure you want to delete the game keys.vrs?",
+                    QMessageBox::No,
+                    {},
+                    "Confirm Delete"});
+    Sitting::Press(Qt::Key_Delete);
+    Sitting::Type("\n");
+    Sitting::Window("frm3");
+    saved.GameLoaded = true;
+    QVERIFY(sitting.Game() == saved);
 }
 
 }  // namespace
@@ -118,22 +138,7 @@ void KeyboardTest::AGameByKeysAlone() {
                         QMessageBox::Yes});
         QVERIFY(Sitting::Ends([] { Sitting::CloseWindow("frm3"); }));
     }
-    Sitting sitting(NoLuck(), saves.path());
-    Sitting::Type("\t\n");
-    Sitting::Window("frmLoad");
-    QCOMPARE(Tabs(), QStringList({"flb1", "lblGo(0)", "lblGo(1)", "lblGo(2)"}));
-    Sitting::Press(Qt::Key_Escape);
-    Sitting::Press(Qt::Key_Down);
-    sitting.Expect({QMessageBox::NoIcon,
-                    "Are you sure you want to delete the game keys.vrs?",
-                    QMessageBox::No,
-                    {},
-                    "Confirm Delete"});
-    Sitting::Press(Qt::Key_Delete);
-    Sitting::Type("\n");
-    Sitting::Window(board);
-    saved.GameLoaded = true;
-    QVERIFY(sitting.Game() == saved);
+    LoadIt(saves.path(), saved);
 }
 
 void KeyboardTest::AReportScrolls() {
