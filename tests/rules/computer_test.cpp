@@ -104,7 +104,7 @@ TEST(ComputerTurn, HasNoLuckWithASecondClaimAmongFour) {
         Give(game, 30 + p, p, 1);
     }
     ScriptedRandom random(
-        {NoBomb, For(1, 3), For(1, 5), Forward, Forward, NoDefense, For(77, 78), For(3, 7), For(5, 7)});
+        {NoBomb, For(1, 3), For(1, 5), Backward, Forward, NoDefense, For(77, 78), For(3, 7), For(5, 7)});
     Recorder seen;
     ComputerTurn(game, random, seen);
     EXPECT_EQ(seen.Shown.Body, "Moved forces into Southern Africa.\r");
