@@ -11,11 +11,6 @@
 namespace vorlund {
 namespace {
 
-constexpr int EvenFaces = 12;  // faces of the die when neither side is ahead
-constexpr int DefenderLosesUpTo = 5;
-constexpr int DefenseBonus = 2;
-constexpr int HitsPerTank = 3;
-
 struct Order {
     int From;
     int To;
@@ -139,7 +134,7 @@ Battle BeginBattle(const GameState& game, int target, std::int16_t troops, std::
     battle.Target = target;
     battle.Defender = territory.Owner;
     battle.WarDiff = game.PlayerAt(territory.Owner).WarfareLevel - game.Current().WarfareLevel +
-                     (territory.HasDefense ? DefenseBonus : 0);
+                     (territory.HasDefense ? DefenseLead : 0);
     battle.Troops = troops;
     battle.Tanks = tanks;
     return battle;

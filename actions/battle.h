@@ -11,6 +11,11 @@
 
 namespace vorlund {
 
+inline constexpr int EvenFaces = 12;         ///< of a round's die, when neither side is ahead
+inline constexpr int DefenderLosesUpTo = 5;  ///< on that die; the attacker loses above it
+inline constexpr int DefenseLead = 2;        ///< what a defense adds to the faces
+inline constexpr int HitsPerTank = 3;
+
 /// One attack while it is fought. The force has left its territory and stands in none, but counts in its
 /// owner's totals until its units fall.
 struct Battle {

@@ -1,12 +1,13 @@
 #include "actions/sell.h"
 
 #include "state/ownership.h"
+#include "state/prices.h"
 #include "turn/victory.h"
 
 namespace vorlund {
 namespace {
 
-constexpr TradeTerms Selling{"sell", "sold", -1, 7, 30};
+constexpr TradeTerms Selling{"sell", "sold", -1, TroopSalePrice, TankSalePrice};
 
 // Where units of this kind would come from, or why they cannot.
 std::variant<Refusal, int> SourceOf(const GameState& game, const UnitKind& kind, const TradeEntries& entries,

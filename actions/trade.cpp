@@ -1,12 +1,11 @@
 #include "actions/trade.h"
 
 #include "state/int16.h"
+#include "state/prices.h"
 #include "state/typed_number.h"
 
 namespace vorlund {
 namespace {
-
-constexpr int BarrelsPerLot = 3;
 
 // Moves an amount into or out of a field; false when it does not fit there any more.
 bool Change(std::int16_t& field, int amount) {
@@ -37,7 +36,7 @@ std::optional<TradeOrder> CutAndCorrect(const TradeQuantities& quantities) {
     const auto atLeast = [](std::int16_t least, std::int16_t value) {
         return value < least ? std::int16_t{0} : value;
     };
-    return TradeOrder{atLeast(0, *troops), atLeast(0, *tanks), atLeast(BarrelsPerLot, *oil)};
+    return TradeOrder{atLeast(0, *troops), atLeast(0, *tanks), atLeast(BarrelsPerDollar, *oil)};
 }
 
 std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const UnitKind& kind,
@@ -77,9 +76,10 @@ std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const
         booking.Lines += std::string(territory.Name) + ".\r";
     }
     if (order.Oil != 0) {
-        const int lots = order.Oil / BarrelsPerLot;
-        fits = Change(player.Oil, terms.Direction * lots * BarrelsPerLot) && fits;
-        booking.Lines += begin + std::to_string(lots * BarrelsPerLot) + " oil barrels" + pay(lots) + ".\r\r";
+        const int lots = order.Oil / BarrelsPerDollar;
+        fits = Change(player.Oil, terms.Direction * lots * BarrelsPerDollar) && fits;
+        booking.Lines +=
+            begin + std::to_string(lots * BarrelsPerDollar) + " oil barrels" + pay(lots) + ".\r\r";
     }
     if (!fits) {
         return std::nullopt;

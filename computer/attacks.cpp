@@ -11,10 +11,6 @@
 namespace vorlund {
 namespace {
 
-constexpr std::int16_t TroopsWorthABomb = 20;
-constexpr std::int16_t TroopsThatNeverAttack = 3;  // so many or fewer stay at home
-constexpr std::int16_t TroopsLeftBehind = 2;
-
 struct Pair {
     int From;
     int To;
@@ -22,7 +18,7 @@ struct Pair {
 
 bool StrongEnough(const Territory& from, const Territory& to) {
     return from.Troops > TroopsThatNeverAttack &&
-           2 * from.Tanks + from.Troops - 2 > 3 * to.Tanks + to.Troops + 2;
+           2 * from.Tanks + from.Troops > 3 * to.Tanks + to.Troops + AttackMargin;
 }
 
 std::optional<Pair> ChooseAttack(const GameState& game) {

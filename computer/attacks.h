@@ -1,11 +1,17 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "state/game_state.h"
 #include "state/random.h"
 
 namespace vorlund {
+
+inline constexpr std::int16_t TroopsWorthABomb = 20;
+inline constexpr std::int16_t TroopsThatNeverAttack = 3;  ///< so many or fewer stay at home
+inline constexpr int AttackMargin = 4;  ///< the attacker's strength must exceed by more than it
+inline constexpr std::int16_t TroopsLeftBehind = 2;
 
 /// Drops the current player's bomb, if it holds one, on the first enemy territory with at least 20 troops,
 /// and appends a line on it to `body`. Without such a target the bomb is kept.

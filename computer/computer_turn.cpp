@@ -8,9 +8,7 @@
 namespace vorlund {
 namespace {
 
-constexpr int BombFaces = 5;
 constexpr int BombRoll = 2;
-constexpr int AttacksPerTurn = 2;
 
 struct Quotas {
     int Expansion;
@@ -20,13 +18,13 @@ struct Quotas {
 /// Two claims and no attack at first; then a second claim is a matter of luck, and only in small games.
 Quotas DrawQuotas(const GameState& game, Random& random) {
     if (game.Current().FirstTurn) {
-        return {2, 0};
+        return {FirstTurnClaims, 0};
     }
-    if (random.Draw(3) == 1 && game.NumPlayers == 2) {
-        return {2, AttacksPerTurn};
+    if (random.Draw(SecondClaimFacesOfTwo) == 1 && game.NumPlayers == 2) {
+        return {2, ComputerAttacks};
     }
-    const bool lucky = random.Draw(5) == 1 && game.NumPlayers == 3;
-    return {lucky ? 2 : 1, AttacksPerTurn};
+    const bool lucky = random.Draw(SecondClaimFacesOfThree) == 1 && game.NumPlayers == 3;
+    return {lucky ? 2 : 1, ComputerAttacks};
 }
 
 struct Census {

@@ -7,10 +7,8 @@
 namespace vorlund {
 namespace {
 
-constexpr std::int16_t SettlingTroops = 2;
 constexpr int DirectionFaces = 10;
 constexpr int ForwardUpTo = 4;
-constexpr int DefenseFaces = 6;
 constexpr int DefenseRoll = 2;
 
 /// A scan over 0 to `size` - 1 from either end.

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "state/game_state.h"
 #include "state/random.h"
 
 namespace vorlund {
+
+inline constexpr std::int16_t SettlingTroops = 2;
+inline constexpr int DefenseFaces = 6;  ///< one of them is a defense
 
 /// Claims up to `quota` empty neighbours of the current player's territories, with two new troops and perhaps
 /// a defense in each. Two draws over 10 set from which end territories and neighbour slots are scanned; a

@@ -9,7 +9,6 @@ namespace {
 // The draws, and how each succeeds.
 constexpr int TankBonusFaces = 80;  // less the number of territories
 constexpr int TankBonusBelow = 12;
-constexpr int QuietTankFaces = 7;
 constexpr int QuietTankRoll = 4;
 
 int CountContacts(const GameState& game) {
@@ -53,7 +52,7 @@ void ReinforceBorders(const GameState& game, Random& random, Territory& territor
 }  // namespace
 
 void Reinforce(GameState& game, Random& random, int territoryCount) {
-    const int pool = territoryCount * 6 / 5;
+    const int pool = territoryCount * TroopsPerTenTerritories / 10;
     const bool tankBonus = random.Draw(TankBonusFaces - territoryCount) < TankBonusBelow;
     const int contacts = CountContacts(game);
     for (int t = 0; t < NumTerritories; ++t) {

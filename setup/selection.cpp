@@ -8,14 +8,12 @@
 namespace vorlund {
 namespace {
 
-constexpr std::int16_t StartingTroops = 10;
-
 struct Treasury {
     std::int16_t Money;
     std::int16_t Oil;
 };
 
-constexpr Treasury HumanTreasury{100, 0};
+constexpr Treasury HumanTreasury{HumanStartingMoney, 0};
 constexpr Treasury ComputerTreasury{9000, 9000};
 
 std::string NumberOf(const GameState& game) {

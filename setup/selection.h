@@ -8,6 +8,9 @@
 
 namespace vorlund {
 
+inline constexpr std::int16_t StartingTroops = 10;
+inline constexpr std::int16_t HumanStartingMoney = 100;
+
 /// The opening round of a new game: a human drawn by chance claims a territory first, then the other humans
 /// in the order of play, and at last the computer players, who keep away from every territory already taken.
 /// The game and the generator must outlive it.

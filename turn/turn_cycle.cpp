@@ -10,9 +10,6 @@
 namespace vorlund {
 namespace {
 
-constexpr std::int16_t MovesPerTurn = 2;
-constexpr std::int16_t AttacksPerTurn = 2;
-
 bool OneIsLeft(const GameState& game) {
     return game.DeadPlayers == game.NumPlayers - 1;
 }

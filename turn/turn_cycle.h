@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 #include "state/game_state.h"
@@ -7,6 +8,9 @@
 #include "turn/screens.h"
 
 namespace vorlund {
+
+inline constexpr std::int16_t MovesPerTurn = 2;
+inline constexpr std::int16_t AttacksPerTurn = 2;
 
 /// Moves play from player to player: what End Turn does, and what closing a report leads to.
 class TurnCycle {

@@ -1,6 +1,5 @@
 #include "turn/upkeep.h"
 
-#include <array>
 #include <cmath>
 
 #include "state/int16.h"
@@ -9,12 +8,7 @@
 namespace vorlund {
 namespace {
 
-constexpr int TroopUpkeep = 2;
-constexpr int FactoryUpkeep = 1;
-constexpr int OilFieldBarrels = 15;
 constexpr int ResearchRoll = 2;
-constexpr int DebtTurnsBeforeCollapse = 3;
-constexpr std::array<int, 4> ResearchFaces{13, 7, 5, 3};
 
 struct Harvest {
     std::int16_t Income = 0;  // dollars
@@ -28,10 +22,10 @@ Harvest HarvestOf(const GameState& game, int player) {
         if (!Owns(game, player, t)) {
             continue;
         }
-        income += 4 * game.TerritoryAt(t).Value + 15;
+        income += TerritoryIncome(game.TerritoryAt(t).Value);
         harvest.Oil += game.TerritoryAt(t).HasOil ? OilFieldBarrels : 0;
     }
-    const double multiplier = game.PlayerAt(player).EconomyLevel * 0.1 + 1.0;
+    const double multiplier = game.PlayerAt(player).EconomyLevel * (EconomyPercent / 100.0) + 1.0;
     harvest.Income = ClampInt16(static_cast<std::int64_t>(std::floor(income * multiplier)));
     return harvest;
 }
@@ -65,7 +59,7 @@ void Collapse(GameState& game, int p) {
 Report RunUpkeep(GameState& game, Random& random, int p) {
     Player& player = game.PlayerAt(p);
     const std::int16_t upkeep = ClampInt16(TroopUpkeep * player.Troops + FactoryUpkeep * player.Factories);
-    const std::int16_t tankUpkeep = player.Tanks;
+    const std::int16_t tankUpkeep = ClampInt16(TankUpkeepBarrels * player.Tanks);
     const Harvest harvest = HarvestOf(game, p);
     int money = player.Money - upkeep + harvest.Income;
     int oil = player.Oil - tankUpkeep + harvest.Oil;
@@ -81,7 +75,7 @@ Report RunUpkeep(GameState& game, Random& random, int p) {
     Research(player, random, body);
 
     if (oil < 0) {
-        money += oil;
+        money += oil * MissingBarrelPrice;
         oil = 0;
     }
     player.Money = ClampInt16(money);

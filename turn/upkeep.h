@@ -1,10 +1,27 @@
 #pragma once
 
+#include <array>
+
 #include "state/game_state.h"
 #include "state/random.h"
 #include "turn/report.h"
 
 namespace vorlund {
+
+// Of a turn, in dollars but for the oil
+inline constexpr int TroopUpkeep = 2;
+inline constexpr int FactoryUpkeep = 1;
+inline constexpr int TankUpkeepBarrels = 1;
+inline constexpr int OilFieldBarrels = 15;
+inline constexpr int MissingBarrelPrice = 1;
+inline constexpr int EconomyPercent = 10;  ///< on top of the income, for each level
+inline constexpr int DebtTurnsBeforeCollapse = 3;
+inline constexpr std::array<int, 4> ResearchFaces{13, 7, 5, 3};  ///< by Nuclear level; one face is the bomb
+
+/// What a territory of `value` pays, before the Economy level.
+constexpr int TerritoryIncome(int value) {
+    return 4 * value + 15;
+}
 
 /// The upkeep at the start of a human player's turn: charges $2 a troop, $1 a factory and a barrel a tank,
 /// pays
