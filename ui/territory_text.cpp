@@ -7,6 +7,8 @@
 namespace vorlund {
 namespace {
 
+constexpr int NeighboursPerLine = 3;
+
 QString NumberAndName(const GameState& game, int t) {
     return QStringLiteral("%1 %2").arg(t + 1).arg(Displayed(game.TerritoryAt(t).Name));
 }
@@ -42,16 +44,19 @@ QString ShortDescription(const GameState& game, int t) {
 
 QString FullDescription(const GameState& game, int t) {
     const Territory& territory = game.TerritoryAt(t);
-    QStringList neighbours;
+    QString neighbours;
+    int told = 0;
     for (const std::int16_t n : territory.Neighbours) {
         if (n != NoNeighbour) {
-            neighbours << NumberAndName(game, n);
+            const auto* between = told == 0 ? "" : told % NeighboursPerLine == 0 ? ",\n" : ", ";
+            neighbours += QLatin1String(between) + NumberAndName(game, n);
+            ++told;
         }
     }
     return NumberAndName(game, t) + u'\n' + Holdings(game, territory).join(QStringLiteral(", ")) +
            QStringLiteral("\nValue %1").arg(territory.Value) +
            (territory.HasOil ? QStringLiteral(", oil field") : QString()) + QStringLiteral("\nNeighbours: ") +
-           neighbours.join(QStringLiteral(", "));
+           neighbours;
 }
 
 }  // namespace vorlund

@@ -78,7 +78,7 @@ void MapHelpTest::TooltipsTellAllOfATerritory() {
     QCOMPARE(TipAt(MarkerOf(7)),
              tip.arg("7 Midwest USA\n&lt;b&gt;Anna (Player 1), 12 troops, 1 tank, factory\n"
                      "Value 7, oil field\nNeighbours: 2 Vancouver Territory, "
-                     "3 Montreal Territory, 6 Western USA, 8 Eastern USA, 9 Mexico"));
+                     "3 Montreal Territory, 6 Western USA,\n8 Eastern USA, 9 Mexico"));
     QCOMPARE(TipAt(MarkerOf(16)), tip.arg("16 England\nBen (Player 2), 1 troop, 0 tanks, defense\nValue 6\n"
                                           "Neighbours: 5 Greenland, 18 French Territory"));
     QCOMPARE(TipAt(MarkerOf(35)),
