@@ -96,18 +96,46 @@ TEST(ComputerTurn, WinsInTheMiddleOfItsAttacks) {
               " CloseReport SetBoardTitle ShowGameOver RefreshMap ShowReport SetBoardTitle Announce");
 }
 
-TEST(ComputerTurn, HasNoLuckWithASecondClaimAmongFour) {
-    GameState game = ComputerToMove(4, 0);
-    Give(game, 26, 0, 1);  // South Africa, next to 25 alone, which borders 24
-    GiveFactory(game, 26);
-    for (const int p : {1, 2, 3}) {
-        Give(game, 30 + p, p, 1);
+TEST(ComputerTurn, DrawsItsClaimsByTheNumberOfPlayers) {
+    struct Row {
+        const char* what;
+        int players;
+        bool firstTurn;
+        std::vector<float> draws;
+        int claims;
+    };
+    const std::vector<Row> rows{
+        {"two players, lucky", 2, false, {For(1, 3)}, 2},
+        {"two players, no luck", 2, false, {For(2, 3), For(1, 5)}, 1},
+        {"three players, lucky", 3, false, {For(1, 3), For(1, 5)}, 2},
+        {"three players, no luck", 3, false, {For(1, 3), For(2, 5)}, 1},
+        {"four players have no such luck", 4, false, {For(1, 3), For(1, 5)}, 1},
+        {"everybody in the first turn", 4, true, {}, 2},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        GameState game = ComputerToMove(row.players, 0);
+        game.Players[0].FirstTurn = row.firstTurn;
+        Give(game, 26, 0, 1);  // South Africa, next to 25 alone, which borders 24
+        GiveFactory(game, 26);
+        for (int p = 1; p < row.players; ++p) {
+            Give(game, 30 + p, p, 1);
+        }
+        std::vector<float> script{NoBomb};
+        script.insert(script.end(), row.draws.begin(), row.draws.end());
+        script.insert(script.end(), {Backward, Forward});
+        const auto claims = static_cast<std::size_t>(row.claims);
+        script.insert(script.end(), claims, NoDefense);
+        script.push_back(For(50, 79 - row.claims));
+        script.insert(script.end(), claims + 1, For(4, 7));  // far from enemies: two troops and a tank each
+        ScriptedRandom random(script);
+        Recorder seen;
+        ComputerTurn(game, random, seen);
+        EXPECT_EQ(game.Territories[24].Occupied, row.claims == 2);
+        EXPECT_EQ(game.Territories[25].Troops, 4);
+        EXPECT_EQ(game.Territories[26].Troops, 3);
+        EXPECT_EQ(game.Territories[26].Tanks, 1);
     }
-    ScriptedRandom random(
-        {NoBomb, For(1, 3), For(1, 5), Backward, Forward, NoDefense, For(77, 78), For(3, 7), For(5, 7)});
-    Recorder seen;
-    ComputerTurn(game, random, seen);
-    EXPECT_EQ(seen.Shown.Body, "Moved forces into Southern Africa.\r");
 }
 
 TEST(ComputerTurn, BuildsItsFreeFactoryWhereItIsStrongest) {

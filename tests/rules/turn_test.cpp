@@ -80,6 +80,8 @@ TEST(Upkeep, BooksAndReports) {
          [](GameState& g) { g.Players[0].Troops = 32767; }},
         {"research finds a bomb", 0, 0, "Anna Money 39 HasNuke 1", Figures(0, 0, 39) + found,
          [](GameState&) {}, For(2, 13)},
+        {"more often at Nuclear level 3", 0, 0, "Anna Money 39 HasNuke 1", Figures(0, 0, 39) + found,
+         [](GameState& g) { g.Players[0].NuclearLevel = 3; }, For(2, 3)},
         {"but never a second one", 0, 0, "Anna Money 39", Figures(0, 0, 39),
          [](GameState& g) { g.Players[0].HasNuke = true; }, For(2, 13)},
     };
