@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "savegame/windows1252.h"
+#include "state/consistent.h"
 #include "tests/rules/savegame_samples.h"
 
 namespace vorlund {
@@ -218,16 +219,34 @@ TEST(ReadGame, RefusesABadFileWithItsLine) {
 }
 
 TEST(ReadGame, RefusesEveryFileThatIsCutShort) {
-    const std::string bytes = WriteGame(SampleGame(5));
-    const std::size_t lastValue = bytes.size() - std::string(" \r\n").size();
-    int line = 1;
-    for (std::size_t size = 0; size < lastValue; ++size) {
-        const auto result = ReadGame(FreshGame(), bytes.substr(0, size));
-        const auto* const bad = std::get_if<BadFile>(&result);
-        ASSERT_NE(bad, nullptr) << size << " bytes";
-        line += size > 0 && bytes[size - 1] == '\n' ? 1 : 0;
-        // A value may be whole although its line end is missing, and then the next line is the bad one.
-        ASSERT_TRUE(bad->Line == line || bad->Line == line + 1) << size;
+    for (int players = 2; players <= MaxPlayers; ++players) {
+        const std::string bytes = WriteGame(SampleGame(players));
+        const std::size_t lastValue = bytes.size() - std::string(" \r\n").size();
+        int line = 1;
+        for (std::size_t size = 0; size < lastValue; ++size) {
+            const auto result = ReadGame(FreshGame(), bytes.substr(0, size));
+            const auto* const bad = std::get_if<BadFile>(&result);
+            ASSERT_NE(bad, nullptr) << size << " bytes";
+            line += size > 0 && bytes[size - 1] == '\n' ? 1 : 0;
+            // A value may be whole although its line end is missing, and then the next line is the bad one.
+            ASSERT_TRUE(bad->Line == line || bad->Line == line + 1) << size;
+        }
+    }
+}
+
+TEST(ReadGame, TakesAnOddValueOnlyWhereTheGameStaysSound) {
+    const GameState game = SampleGame(2);
+    for (int line = 1; line <= 255 + 58 * 2; ++line) {
+        for (const char* value :
+             {"", " ", "0", " 1 ", "-1", "9", "32768", "1e3", "True", "false", "a,b", "\"q\"", "\xE9"}) {
+            const auto result = ReadGame(FreshGame(), WithLine(game, line, value));
+            if (const auto* const read = std::get_if<GameState>(&result)) {
+                ASSERT_TRUE(Consistent(*read) && !read->Current().IsDead) << line << ": " << value;
+                ASSERT_EQ(Accepted(WriteGame(*read)), *read) << line << ": " << value;
+            } else {
+                ASSERT_TRUE(std::get<BadFile>(result).Line >= 1 && !std::get<BadFile>(result).What.empty());
+            }
+        }
     }
 }
 
