@@ -70,8 +70,9 @@ void CommandLabel::PaintPlate(QPainter& painter) const {
     painter.drawRoundedRect(plate, CornerRadius, CornerRadius);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(colour::Focus), 1.6));
-        painter.drawRoundedRect(plate.adjusted(1, 1, -1, -1), CornerRadius - 1, CornerRadius - 1);
+        painter.setPen(QPen(QColor(colour::Focus), 1.3));
+        // At the very edge, where no letter reaches: amber is no ground for light blue.
+        painter.drawRoundedRect(plate.adjusted(0.1, 0.1, -0.1, -0.1), CornerRadius, CornerRadius);
     }
 }
 

@@ -15,7 +15,7 @@ class CommandLabel : public QAbstractButton {
 public:
     /// How far the plate reaches beyond the text's box, to either side and above and below, in pixels.
     static constexpr int PlateX = 5;
-    static constexpr int PlateY = 1;
+    static constexpr int PlateY = 2;
 
     /// `box` is the place of the text. In `caption` a letter behind "&" is the access letter and is
     /// underlined.
