@@ -33,7 +33,8 @@ frmReport::frmReport(Program& program)
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->viewport()->setAutoFillBackground(false);
-    scroll_->viewport()->setMouseTracking(true);
+    scroll_->viewport()->setMouseTracking(true);  // for the commands, which rest when the pointer is here
+    scroll_->setMouseTracking(true);
     lbl2_ =
         new TextLabel(nullptr, QStringLiteral("lbl2"), Face::Caption, QRect(QPoint(0, 0), BodyFrame.size()));
     lbl2_->setWordWrap(true);
