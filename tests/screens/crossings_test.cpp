@@ -39,7 +39,6 @@ private slots:
     void ClosingTheBoardClosesAll();
     void HeldKeysDoNothing();
     void KeypadEnterIsEnter();
-    void TheMapIsClicked();
 };
 
 void CrossingsTest::EntriesAreRefused_data() {
@@ -292,20 +291,6 @@ void CrossingsTest::KeypadEnterIsEnter() {
     QCOMPARE(Sitting::Title("frmReport"), "Vorlund - Buy");
     Sitting::Press(Qt::Key_Enter, Qt::KeypadModifier);
     QVERIFY(!Sitting::IsOpen("frmReport"));
-}
-
-// A click on a territory types its number where the dialog asks for one.
-void CrossingsTest::TheMapIsClicked() {
-    Sitting sitting(NoLuck());
-    sitting.Resume(Neighbours());
-    Sitting::Type("r");
-    for (const int t : {6, 5}) {
-        const Territory& territory = sitting.Game().TerritoryAt(t);
-        QTest::mouseClick(Sitting::Window("frm3").windowHandle(), Qt::LeftButton, {},
-                          QPoint(territory.MapX, territory.MapY + 5));
-    }
-    QCOMPARE(Sitting::Text("frmTransport", "txtC1"), "7");
-    QCOMPARE(Sitting::Text("frmTransport", "txtC2"), "6");
 }
 
 QTEST_MAIN(CrossingsTest)
