@@ -81,13 +81,13 @@ private slots:
 };
 
 void NewGameTest::ThreeHumansPlayFiveRounds() {
-    const std::array<const char*, 3> names{"Anna", "Bert", "Cleo"};
-    const std::array<int, 3> homes{0, 5, 26};  // an oil field, a rich territory, a plain one
+    const QStringList names{"Anna", "Bert", "Cleo"};
+    const QList<int> homes{0, 5, 26};  // an oil field, a rich territory, a plain one
     std::vector<float> chance{ForDraw(1, 3)};
     chance.resize(16, ForDraw(0, 13));
     chance[8] = ForDraw(2, 13);  // Cleo's research in the third round
     Sitting sitting(ByScript(chance));
-    AnswerNames({names[0], names[1], names[2]});
+    AnswerNames(names);
     Sitting::Click("frm2", "lblCont");
     QVERIFY(!Sitting::IsOpen("frm1") && !Sitting::IsOpen("frm2"));
     QCOMPARE(Sitting::Title("frm3"), "Vorlund");
