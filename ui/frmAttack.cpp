@@ -51,7 +51,7 @@ void frmAttack::AddStrikeHalf() {
         AddText(QStringLiteral("Label2"), Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
     txtN_ = AddField(label2, QStringLiteral("txtN"), QPoint(120, 152), 2);
     lblStrike_ =
-        AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(290, 146, 108, 19));
+        AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(296, 144, 108, 19));
     lblStrike_->SetKey(QStringLiteral("Enter"));
     lblStrike_->SetAvailable(game.Current().HasNuke, QStringLiteral("You have no nuclear bomb."));
     TakeTerritories({txtN_});

@@ -42,7 +42,7 @@ frmReport::frmReport(Program& program)
     scroll_->setWidget(lbl2_);
     lbl2_->setAutoFillBackground(false);
     CommandLabel* lblCont =
-        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue"), QRect(209, 192, 81, 19));
+        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue"), QRect(214, 192, 72, 19));
     lblCont->SetKey(QStringLiteral("Enter"));
     connect(lblCont, &CommandLabel::clicked, this, &frmReport::close);
 }
