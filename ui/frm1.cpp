@@ -89,6 +89,13 @@ void frm1::TypeCredit() {
     tmr3_.stop();
 }
 
+void frm1::Leave() {
+    for (QTimer* timer : {&tmr1_, &tmr2_, &tmr3_}) {
+        timer->stop();
+    }
+    CloseOutright();
+}
+
 bool frm1::CloseRequested() {
     program_.End();
     return true;

@@ -19,6 +19,9 @@ class frm1 final : public Screen {
 public:
     explicit frm1(Program& program);
 
+    /// Closes the screen for good, and its music and credits with it.
+    void Leave();
+
 protected:
     bool CloseRequested() override;
     void mousePressEvent(QMouseEvent* event) override;

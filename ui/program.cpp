@@ -25,7 +25,7 @@ void Program::Start() {
 void Program::PlayGame() {
     newGame_ = std::make_unique<frm2>(*this);
     newGame_->Present();
-    title_->CloseOutright();
+    title_->Leave();
 }
 
 void Program::LoadGame() {
@@ -40,7 +40,7 @@ void Program::BackToTitle() {
 
 void Program::OpenBoard() {
     screens_.OpenBoard();
-    title_->CloseOutright();
+    title_->Leave();
 }
 
 void Program::End() {
