@@ -59,7 +59,7 @@ void Collapse(GameState& game, int p) {
 Report RunUpkeep(GameState& game, Random& random, int p) {
     Player& player = game.PlayerAt(p);
     const std::int16_t upkeep = ClampInt16(TroopUpkeep * player.Troops + FactoryUpkeep * player.Factories);
-    const std::int16_t tankUpkeep = ClampInt16(TankUpkeepBarrels * player.Tanks);
+    const std::int16_t tankUpkeep = ClampInt16(std::int64_t{TankUpkeepBarrels} * player.Tanks);
     const Harvest harvest = HarvestOf(game, p);
     int money = player.Money - upkeep + harvest.Income;
     int oil = player.Oil - tankUpkeep + harvest.Oil;
