@@ -67,11 +67,10 @@ QStringList Shortened(QStringList lines) {
                    },
                    true);
     };
-    // The last run of the program has to be enough: earlier ones leave nothing behind but saved games.
     lines = lines.mid(lines.lastIndexOf(QRegularExpression(QStringLiteral("start .*"))));
     if (!fails(lines)) {
         std::printf("(It does not happen again by itself; the end of the last run of the program:)\n");
-        return lines.mid(lines.size() - 30);
+        return lines.mid(lines.size() - 400);
     }
     for (qsizetype length = lines.size() / 2; length > 0; length /= 2) {
         for (qsizetype at = 1; at < lines.size();) {

@@ -3,6 +3,7 @@
 #include <unistd.h>
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QTest>
 #include <QThread>
 #include <QTimerEvent>
@@ -33,7 +34,8 @@ QString toolkitMessage;
 /// too late.
 void TakeMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
     if (!message.startsWith(QLatin1String("This plugin does not support")) &&
-        !message.startsWith(QLatin1String("Mouse event at"))) {
+        !message.startsWith(QLatin1String("Mouse event at")) &&
+        !message.contains(QLatin1String("setNetWmStateOnUnmappedWindow"))) {
         toolkitMessage = message;
     }
 }
@@ -96,6 +98,10 @@ void Monkey::RunProgram(const QString& start) {
 }
 
 void Monkey::FillFolder(SeededRandom& random) {
+    // Nothing is left from one run to the next, so that each can be done again by itself.
+    for (QDir folder(folder_.path()); const QString& old : folder.entryList(QDir::Files)) {
+        folder.remove(old);
+    }
     for (int i = 0; i < PositionsPerRun; ++i) {
         QFile file(folder_.filePath(QStringLiteral("1 position %1.vrs").arg(i)));
         file.open(QIODevice::WriteOnly);
@@ -139,16 +145,22 @@ std::optional<QString> Monkey::NextLine() {
 }
 
 void Monkey::Finish() {
-    // A box keeps the code that asked for it waiting, so the boxes go first.
-    if (QWidget* box = QApplication::activeModalWidget(); box != nullptr && !complaint_) {
-        box->close();
-        return;
-    }
-    program_->End();
     if (complaint_) {
         std::printf("BROKEN: %s\n", complaint_->c_str());
+        for (const QWidget* window : WindowsOnScreen()) {
+            std::printf("  on screen: %s, \"%s\"\n", qPrintable(NameOf(*window)),
+                        qPrintable(window->windowTitle()));
+        }
         std::fflush(nullptr);
         std::_Exit(1);
+    }
+    // A box keeps the code that asked for it waiting, so the boxes go first.
+    if (QThread::currentThread()->loopLevel() == 1) {
+        program_->End();
+    } else if (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+    } else if (QWidget* box = QApplication::activeModalWidget()) {
+        box->close();
     }
 }
 
