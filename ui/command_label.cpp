@@ -106,6 +106,16 @@ void CommandLabel::paintEvent(QPaintEvent*) {
     painter.drawText(box, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, text());
 }
 
+bool CommandLabel::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        // At once: the toolkit's own click comes a tenth of a second later, whatever has opened or closed
+        // since.
+        click();
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
 void CommandLabel::enterEvent(QEnterEvent* event) {
     QAbstractButton::enterEvent(event);
     if (isEnabled()) {

@@ -27,7 +27,8 @@ void GameScreens::OpenBoard() {
 void GameScreens::OpenDialog(Command command) {
     SetCommands(CommandSet::None());
     QPointer<CommandDialog>& dialog = dialogs_[static_cast<std::size_t>(command)];
-    if (dialog.isNull()) {
+    // One that has been closed may not be gone yet.
+    if (dialog.isNull() || !dialog->isVisible()) {
         dialog = MakeDialog(command);
     }
     dialog->Present();
