@@ -171,7 +171,9 @@ def can_be_used(node):
 def describe(node):
     key = Atspi.Action.get_key_binding(node, 0) if acts(node) else ""
     key = f" ({key})" if key else ""
-    off = "" if has(node, Atspi.StateType.ENABLED) or is_field(node) else ", disabled"
+    # Whether there is a bomb to launch is a matter of the game's own luck.
+    by_luck = node.get_name() == "Launch Nuke"
+    off = "" if has(node, Atspi.StateType.ENABLED) or is_field(node) or by_luck else ", disabled"
     more = node.get_description()
     more = f": {more}" if more and not more.startswith("Key: ") and not off else ""
     return f"{node.get_role_name()} {node.get_name()}{key}{more}{off}"
@@ -283,7 +285,7 @@ def main():
                                          "push button Move (Enter)"])
     load_and_open(program, "Attack", ["text Attacking territory #:", "text Defending territory #:", *units,
                                       "push button Attack (Enter)", "text Territory # to nuke:",
-                                      "push button Launch Nuke (Enter), disabled"])
+                                      "push button Launch Nuke (Enter)"])
     load_and_open(program, "Upgrade", [f"push button Upgrade (Alt+{n}): {track}" for n, track in
                                        enumerate(("Economy", "Warfare", "Nuclear"), 1)] +
                   ["text Territory #:: Build Factory", "push button Build Factory (Enter)",
