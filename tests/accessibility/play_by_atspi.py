@@ -175,7 +175,7 @@ def describe(node):
     by_luck = node.get_name() == "Launch Nuke"
     off = "" if has(node, Atspi.StateType.ENABLED) or is_field(node) or by_luck else ", disabled"
     more = node.get_description()
-    more = f": {more}" if more and not more.startswith("Key: ") and not off else ""
+    more = f": {more}" if more and not more.startswith("Key: ") and not (off or by_luck) else ""
     return f"{node.get_role_name()} {node.get_name()}{key}{more}{off}"
 
 
