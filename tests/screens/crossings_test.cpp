@@ -37,6 +37,8 @@ private slots:
     void DeathClosesTheOtherDialogs();
     void TheEndOfTheGameClosesTheOtherDialogs();
     void ClosingTheBoardClosesAll();
+    void ADialogOpensRightBehindItsClosing();
+    void WhatIsTypedAheadOfAnAnswerClosesNothing();
     void HeldKeysDoNothing();
     void KeypadEnterIsEnter();
 };
@@ -253,6 +255,33 @@ void CrossingsTest::ClosingTheBoardClosesAll() {
     QCOMPARE(Sitting::Commands(), "");
     sitting.Expect({QMessageBox::Question, question, QMessageBox::Yes});
     QVERIFY(Sitting::Ends([] { Sitting::CloseWindow("frm3"); }));
+}
+
+void CrossingsTest::ADialogOpensRightBehindItsClosing() {
+    Sitting sitting(NoLuck());
+    sitting.Resume(Neighbours());
+    Sitting::Type("b");
+    // Both keys at once, before the closed dialog is gone
+    Sitting::Window("frmBuy").close();
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_B, {}, "b");
+    QApplication::sendEvent(&Sitting::Window("frm3"), &key);
+    QTest::qWait(1);
+    QVERIFY(Sitting::IsOpen("frmBuy"));
+    Sitting::Press(Qt::Key_Escape);
+    QCOMPARE(Sitting::Commands(), "bsrautev");
+}
+
+void CrossingsTest::WhatIsTypedAheadOfAnAnswerClosesNothing() {
+    Sitting sitting(NoLuck());
+    sitting.Resume(Neighbours());
+    Sitting::Type("b");
+    sitting.Expect(
+        {QMessageBox::Warning, "The data you entered will not make a transaction.", QMessageBox::Ok, [] {
+             QApplication::activeModalWidget()->hide();
+             Sitting::Window("frmBuy").close();
+         }});
+    Sitting::Click("frmBuy", "lblGo");
+    QVERIFY(Sitting::IsOpen("frmBuy"));
 }
 
 void CrossingsTest::HeldKeysDoNothing() {
