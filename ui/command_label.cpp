@@ -27,7 +27,8 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
     setGeometry(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
-    setFont(Fitted(FontOf(Face::Command), caption, box.width()));
+    // The plate has room for a little more than the box: letters are left as they are if they fit there.
+    setFont(Fitted(FontOf(Face::Command), caption, box.width() + PlateX));
 }
 
 void CommandLabel::SetAvailable(bool available, const QString& whyNot) {

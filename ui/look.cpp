@@ -69,9 +69,17 @@ QColor ColourOf(Face face) {
 QFont Fitted(QFont font, const QString& text, int width) {
     constexpr int narrowest =
         88;                      // per cent; letters narrower than this are harder to read than smaller ones
+    constexpr int step = 4;      // per cent
     constexpr int smallest = 7;  // pixels
-    for (int stretch = 100; WidestLine(font, text) > width && stretch > narrowest;) {
-        stretch -= 4;
+    const int widest = WidestLine(font, text);
+    if (widest <= width) {
+        return font;
+    }
+    // Every font that is tried is loaded: the first try is the stretch that the widths call for.
+    int stretch = std::clamp(100 * width / widest / step * step, narrowest, 100 - step);
+    font.setStretch(stretch);
+    for (; WidestLine(font, text) > width && stretch > narrowest;) {
+        stretch -= step;
         font.setStretch(stretch);
     }
     while (WidestLine(font, text) > width && font.pixelSize() > smallest) {

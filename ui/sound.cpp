@@ -1,8 +1,5 @@
 #include "ui/sound.h"
 
-#define SDL_MAIN_HANDLED
-#include <SDL.h>
-
 #include <QFile>
 #include <QLibrary>
 #include <QResource>
@@ -14,6 +11,8 @@
 #include <optional>
 #include <utility>
 #include <vector>
+
+#include "ui/sdl_audio.h"
 
 namespace vorlund {
 namespace {
@@ -38,11 +37,11 @@ void QuietenServers() {
     }
 }
 
-void PrepareSdl() {
-    SDL_SetMainReady();
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "dropframe");  // the gunfire ends in a short block
-    SDL_LogSetOutputFunction(nullptr, nullptr);
+void Prepare(const SdlAudio& sdl) {
+    sdl.SetMainReady();
+    sdl.SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    sdl.SetHint(SDL_HINT_WAVE_TRUNCATION, "dropframe");  // the gunfire ends in a short block
+    sdl.LogSetOutputFunction(nullptr, nullptr);
     using Setter = int (*)(AlsaErrorHandler);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a library gives its functions so
     if (auto set = reinterpret_cast<Setter>(
@@ -52,7 +51,7 @@ void PrepareSdl() {
 }
 
 // Samples of a recording in the device's format, native 16-bit mono at kRate; none if it cannot be read.
-std::vector<Uint8> LoadWave(const QString& path) {
+std::vector<Uint8> LoadWave(const SdlAudio& sdl, const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
@@ -61,22 +60,22 @@ std::vector<Uint8> LoadWave(const QString& path) {
     SDL_AudioSpec form{};
     Uint8* decoded = nullptr;
     Uint32 length = 0;
-    SDL_RWops* source = SDL_RWFromConstMem(image.constData(), static_cast<int>(image.size()));
-    if (SDL_LoadWAV_RW(source, 1, &form, &decoded, &length) == nullptr) {
+    SDL_RWops* source = sdl.RWFromConstMem(image.constData(), static_cast<int>(image.size()));
+    if (sdl.LoadWAV_RW(source, 1, &form, &decoded, &length) == nullptr) {
         return {};
     }
     std::vector<Uint8> samples(decoded, decoded + length);
-    SDL_FreeWAV(decoded);
+    sdl.FreeWAV(decoded);
 
     SDL_AudioCVT conversion{};
-    if (SDL_BuildAudioCVT(&conversion, form.format, form.channels, form.freq, AUDIO_S16SYS, 1, kRate) < 0) {
+    if (sdl.BuildAudioCVT(&conversion, form.format, form.channels, form.freq, AUDIO_S16SYS, 1, kRate) < 0) {
         return {};
     }
     samples.resize(samples.size() * static_cast<std::size_t>(conversion.len_mult));
     conversion.buf = samples.data();
     conversion.len = static_cast<int>(length);
     conversion.len_cvt = conversion.len;
-    if (conversion.needed != 0 && SDL_ConvertAudio(&conversion) != 0) {
+    if (conversion.needed != 0 && sdl.ConvertAudio(&conversion) != 0) {
         return {};
     }
     samples.resize(static_cast<std::size_t>(conversion.len_cvt));
@@ -87,8 +86,8 @@ std::vector<Uint8> LoadWave(const QString& path) {
 // sleeps.
 class Speaker {
 public:
-    Speaker() {
-        if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
+    explicit Speaker(const SdlAudio& sdl) : sdl_(sdl) {
+        if (sdl_.InitSubSystem(SDL_INIT_AUDIO) != 0) {
             return;
         }
         started_ = true;
@@ -97,32 +96,33 @@ public:
         wish.format = AUDIO_S16SYS;
         wish.channels = 1;
         wish.samples = kBufferedSamples;
-        device_ = SDL_OpenAudioDevice(nullptr, 0, &wish, nullptr, 0);
-        SDL_PauseAudioDevice(device_, 0);
+        device_ = sdl_.OpenAudioDevice(nullptr, 0, &wish, nullptr, 0);
+        sdl_.PauseAudioDevice(device_, 0);
     }
 
     ~Speaker() {
         if (device_ != 0) {
-            SDL_CloseAudioDevice(device_);
+            sdl_.CloseAudioDevice(device_);
         }
         if (started_) {
-            SDL_QuitSubSystem(SDL_INIT_AUDIO);
+            sdl_.QuitSubSystem(SDL_INIT_AUDIO);
         }
     }
 
     Speaker(const Speaker&) = delete;
     Speaker& operator=(const Speaker&) = delete;
 
-    bool IsAlive() const { return device_ != 0 && SDL_GetAudioDeviceStatus(device_) == SDL_AUDIO_PLAYING; }
+    bool IsAlive() const { return device_ != 0 && sdl_.GetAudioDeviceStatus(device_) == SDL_AUDIO_PLAYING; }
 
-    bool IsQuiet() const { return SDL_GetQueuedAudioSize(device_) == 0; }
+    bool IsQuiet() const { return sdl_.GetQueuedAudioSize(device_) == 0; }
 
     void Play(const std::vector<Uint8>& samples) const {
-        SDL_ClearQueuedAudio(device_);
-        SDL_QueueAudio(device_, samples.data(), static_cast<Uint32>(samples.size()));
+        sdl_.ClearQueuedAudio(device_);
+        sdl_.QueueAudio(device_, samples.data(), static_cast<Uint32>(samples.size()));
     }
 
 private:
+    const SdlAudio& sdl_;
     bool started_ = false;
     SDL_AudioDeviceID device_ = 0;
 };
@@ -167,7 +167,22 @@ void Sound::PlayWave(std::string_view name) {
 }
 
 void Sound::Work(Mailbox& mailbox) {
-    PrepareSdl();
+    std::unique_lock lock(mailbox.mutex);
+    mailbox.changed.wait(lock, [&mailbox] { return mailbox.wanted || mailbox.ending; });
+    if (!mailbox.ending) {
+        lock.unlock();
+        if (const SdlAudio sdl; sdl.IsThere()) {
+            Prepare(sdl);
+            PlayUntilTheEnd(sdl, mailbox);
+            sdl.TLSCleanup();  // SDL frees what belongs to a thread only for threads it made itself
+        }
+        lock.lock();
+    }
+    mailbox.ended = true;
+    mailbox.changed.notify_all();
+}
+
+void Sound::PlayUntilTheEnd(const SdlAudio& sdl, Mailbox& mailbox) {
     std::optional<Speaker> speaker;
     std::chrono::milliseconds patience{};
     std::unique_lock lock(mailbox.mutex);
@@ -175,12 +190,12 @@ void Sound::Work(Mailbox& mailbox) {
         if (mailbox.wanted) {
             const QString path = *std::exchange(mailbox.wanted, std::nullopt);
             lock.unlock();
-            const std::vector<Uint8> samples = LoadWave(path);
+            const std::vector<Uint8> samples = LoadWave(sdl, path);
             if (speaker && !speaker->IsAlive()) {
                 speaker.reset();
             }
             if (!speaker) {
-                speaker.emplace();
+                speaker.emplace(sdl);
             }
             if (speaker->IsAlive()) {
                 speaker->Play(samples);
@@ -198,12 +213,8 @@ void Sound::Work(Mailbox& mailbox) {
             lock.lock();
         }
     }
-    lock.unlock();
+    lock.unlock();  // while the device takes its time to close
     speaker.reset();
-    SDL_TLSCleanup();  // SDL frees what belongs to a thread only for threads it made itself
-    lock.lock();
-    mailbox.ended = true;
-    mailbox.changed.notify_all();
 }
 
 }  // namespace vorlund

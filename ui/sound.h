@@ -6,6 +6,8 @@
 
 namespace vorlund {
 
+class SdlAudio;
+
 /// Plays the game's recordings, one at a time, beside the user interface.
 ///
 /// A worker thread does everything that may take its time: it opens the audio device for a sound and closes
@@ -30,6 +32,7 @@ private:
     struct Mailbox;
 
     static void Work(Mailbox& mailbox);
+    static void PlayUntilTheEnd(const SdlAudio& sdl, Mailbox& mailbox);
 
     std::shared_ptr<Mailbox> mailbox_;  // shared with the worker, which may outlive this object
     std::thread worker_;
