@@ -72,13 +72,13 @@ QFont Fitted(QFont font, const QString& text, int width) {
     constexpr int step = 4;      // per cent
     constexpr int smallest = 7;  // pixels
     const int widest = WidestLine(font, text);
-    if (widest <= width) {
+    if (widest <= width || widest == 0) {
         return font;
     }
     // Every font that is tried is loaded: the first try is the stretch that the widths call for.
     int stretch = std::clamp(100 * width / widest / step * step, narrowest, 100 - step);
     font.setStretch(stretch);
-    for (; WidestLine(font, text) > width && stretch > narrowest;) {
+    while (WidestLine(font, text) > width && stretch > narrowest) {
         stretch -= step;
         font.setStretch(stretch);
     }
