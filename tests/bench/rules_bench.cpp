@@ -1,9 +1,5 @@
 #include <benchmark/benchmark.h>
 
-#include <array>
-#include <cmath>
-
-#include "actions/battle.h"
 #include "computer/computer_turn.h"
 #include "setup/selection.h"
 #include "state/ownership.h"
@@ -66,40 +62,6 @@ void ComputerTurns(benchmark::State& state) {
     state.counters["turns_a_game"] = static_cast<double>(state.iterations()) / static_cast<double>(games);
 }
 BENCHMARK(ComputerTurns)->DenseRange(2, 4);
-
-/// Rounds of battle at one difference of the odds; the share that the attacker wins against the exact one.
-/// "sigmas" is how far apart they are in standard deviations: above 4 is a fault.
-void BattleOdds(benchmark::State& state) {
-    const int warDiff = static_cast<int>(state.range(0));
-    SeededRandom random(static_cast<std::uint32_t>(warDiff + 100));
-    GameState game = FreshGame();
-    game.NumPlayers = 2;
-    Claim(game, 0, 0);
-    Claim(game, 1, 1);
-    game.Players[0].WarfareLevel = warDiff < 0 ? static_cast<std::int16_t>(-warDiff) : std::int16_t{0};
-    game.Players[1].WarfareLevel = warDiff > 3   ? std::int16_t{3}
-                                   : warDiff > 0 ? static_cast<std::int16_t>(warDiff)
-                                                 : std::int16_t{0};
-    game.Territories[1].HasDefense = warDiff > 3;
-    Battle battle = BeginBattle(game, 1, 1, 0);
-    std::int64_t won = 0;
-    for (auto _ : state) {
-        game.Territories[1].Troops = 1;
-        battle.Troops = 1;
-        BattleRound(game, random, battle);
-        won += battle.Troops;
-    }
-    const auto rounds = static_cast<double>(state.iterations());
-    const double exact = 6.0 / (12 + warDiff);
-    const double measured = static_cast<double>(won) / rounds;
-    state.counters["exact"] = exact;
-    state.counters["measured"] = measured;
-    state.counters["sigmas"] = std::abs(measured - exact) / std::sqrt(exact * (1 - exact) / rounds);
-    if (battle.WarDiff != warDiff) {
-        state.SkipWithError("the battle has other odds");
-    }
-}
-BENCHMARK(BattleOdds)->Arg(-3)->Arg(0)->Arg(5);
 
 }  // namespace
 }  // namespace vorlund
