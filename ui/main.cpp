@@ -1,8 +1,10 @@
 #include <QApplication>
 #include <QStandardPaths>
 #include <array>
+#include <optional>
 
 #include "ui/accessible.h"
+#include "ui/early_fonts.h"
 #include "ui/held_keys.h"
 #include "ui/program.h"
 #include "ui/single_copy.h"
@@ -11,7 +13,9 @@ int main(int, char** arguments) {
     // The game has no command line, so the toolkit gets none either.
     int count = 1;
     std::array<char*, 2> name{arguments[0], nullptr};
+    std::optional<vorlund::EarlyFonts> fonts(std::in_place);
     const QApplication application(count, name.data());
+    fonts.reset();
     QApplication::setApplicationName(QStringLiteral("vorlund"));
     QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
     QApplication::setQuitOnLastWindowClosed(false);

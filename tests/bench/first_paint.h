@@ -14,7 +14,7 @@ public:
     explicit FirstPaint(bool memory) : memory_(memory) {}
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::UpdateRequest) {
+        if (event->type() == QEvent::Paint) {
             if (!memory_) {
                 QTimer::singleShot(0, [] { std::_Exit(0); });
             } else if (!asked_) {

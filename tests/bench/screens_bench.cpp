@@ -5,12 +5,14 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "tests/bench/first_paint.h"
 #include "tests/engine/games.h"
 #include "tests/engine/seeded_random.h"
+#include "ui/early_fonts.h"
 #include "ui/frm3.h"
 #include "ui/program.h"
 
@@ -177,7 +179,9 @@ void PrintTable() {
 }  // namespace vorlund
 
 int main(int argc, char** argv) {
+    std::optional<vorlund::EarlyFonts> fonts(std::in_place);
     const QApplication application(argc, argv);
+    fonts.reset();
     QApplication::setQuitOnLastWindowClosed(false);
     const std::string_view mode = argc > 1 ? argv[1] : "";
     if (mode.empty()) {
