@@ -1,0 +1,247 @@
+#include <QApplication>
+#include <QDir>
+#include <QHelpEvent>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolTip>
+#include <QWindow>
+
+#include "tests/rules/small_worlds.h"
+#include "tests/screens/hands.h"
+
+// What single controls do: the Tab key, the fields under the map, tooltips, the report's text, the saved
+// games.
+
+namespace vorlund {
+namespace {
+
+constexpr QPoint Atlantic(250, 200);
+
+QPoint MarkerOf(int number) {
+    static const GameState world = NewGame(2);
+    return {world.TerritoryAt(number - 1).MapX, world.TerritoryAt(number - 1).MapY};
+}
+
+GameState AnnaAndBen() {
+    GameState game = NewGame(2);
+    game.PlayerAt(0).Name = "<b>Anna";
+    game.PlayerAt(0).Money = 1000;
+    Give(game, 6, 0, 12, 1);
+    GiveFactory(game, 6);
+    Give(game, 15, 1, 1);
+    game.TerritoryAt(15).HasDefense = true;
+    return game;
+}
+
+// Where Tab leads until it comes round; "?" behind a name when nobody sees that the keyboard is there.
+QString Tabs() {
+    QStringList stops;
+    const auto focus = [] { return QApplication::focusWidget(); };
+    Type({});
+    while (QTest::qWaitFor([&] { return focus() != nullptr; }) && !stops.contains(focus()->objectName()) &&
+           stops.size() < 12) {
+        const QWidget& here = *focus();
+        const QRect around = here.geometry().adjusted(-3, -3, 3, 3);
+        const QImage with = here.window()->grab(around).toImage();
+        stops << here.objectName();
+        Press(Qt::Key_Tab);
+        const bool seen = here.isWindow() || here.window()->grab(around).toImage() != with;
+        stops.back() += seen ? "" : "?";
+    }
+    return stops.join(' ');
+}
+
+TEST(Controls, TheTabKeyLeadsToEverything) {
+    {
+        Sitting title;
+        EXPECT_EQ(Tabs(), "lblPlay lblLoad lblExit");
+        Press(Qt::Key_Down);
+        Type("\n");
+        EXPECT_EQ(Tabs(), "flb1 lblGo(0) lblGo(1) lblGo(2)");
+    }
+    {
+        Sitting newGame;
+        Type(" ");
+        EXPECT_EQ(Tabs(), "opt2 lblCont");
+        Press(Qt::Key_Down);
+        EXPECT_TRUE(static_cast<CommandLabel&>(Control("frm2", "opt3")).isChecked());
+        Press(Qt::Key_Up);
+        Type("\n");
+        EXPECT_EQ(Tabs(), "txtN(0) cmp(0) txtN(1) cmp(1) lblCont");
+        Type("Anna\t\t\t \t\n");
+        Window("frmSelect");
+    }
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    EXPECT_EQ(Tabs(), "frm3 lblBuy lblSell lblTransport lblAttack lblUpgrade lblStatus lblEndTurn lblSave");
+    const std::vector<std::pair<QString, QString>> rows{{"b", "txtC1 txtTroops txtTanks txtOil"},
+                                                        {"s", "txtC1 txtTroops txtTanks txtOil"},
+                                                        {"r", "txtC1 txtC2 txtTroops txtTanks"},
+                                                        {"a", "txtC1 txtC2 txtTroops txtTanks txtN"},
+                                                        {"u", "txtC1 txtC2"}};
+    for (const auto& [key, fields] : rows) {
+        Type(key);
+        EXPECT_EQ(Tabs(), fields);
+        Type("\033");
+    }
+    Type("\t\n");  // on a command, Enter runs it
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [] | Vorlund - Buy");
+    Type("\033u");
+    Press(Qt::Key_3, Qt::AltModifier);
+    EXPECT_EQ(sitting.Game().PlayerAt(0).NuclearLevel, 1);
+}
+
+TEST(Controls, AReportScrollsAndTheNextBeginsAtItsTop) {
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    const Report report{"Vorlund - Buy", "Forty lines", QString("line\r").repeated(40).toStdString()};
+    sitting.Run().screens().ShowActionReport(report);
+    const auto bars = Window("frmReport").findChildren<QScrollBar*>();
+    const auto& bar = **std::find_if(bars.begin(), bars.end(), [](auto* b) { return b->maximum() > 0; });
+    const int line = bar.singleStep();
+    const int page = bar.pageStep();
+    const std::vector<std::pair<Qt::Key, int>> steps{
+        {Qt::Key_Down, line},        {Qt::Key_PageDown, line + page}, {Qt::Key_Up, page},
+        {Qt::Key_PageUp, 0},         {Qt::Key_End, bar.maximum()},    {Qt::Key_Home, 0},
+        {Qt::Key_End, bar.maximum()}};
+    for (const auto& [key, place] : steps) {
+        Press(key);
+        EXPECT_EQ(bar.value(), place) << key;
+    }
+    sitting.Run().screens().ShowActionReport(report);
+    EXPECT_EQ(bar.value(), 0);
+}
+
+TEST(Controls, AClickOnTheMapTypesTheNumber) {
+    const std::vector<std::array<QString, 3>> rows{{"b", "txtC1", "txtC1"},  {"s\t", "txtC1", "txtC1"},
+                                                   {"r", "txtC1", "txtC2"},  {"r\t\t\t", "txtC2", "txtC2"},
+                                                   {"a", "txtC1", "txtC2"},  {"a\t\t\t\t", "txtN", "txtN"},
+                                                   {"u\t", "txtC2", "txtC2"}};
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    for (const auto& [keys, field, next] : rows) {
+        Type(keys);
+        QWidget& dialog = *QApplication::activeWindow();
+        for (const QPoint place : {MarkerOf(35), Atlantic}) {  // in the sea there is nothing
+            Click("frm3", place);
+            EXPECT_EQ(Text(dialog.objectName(), field), "35") << keys.toStdString();
+            EXPECT_EQ(QApplication::focusWidget()->objectName(), next) << keys.toStdString();
+        }
+        Type("\033");
+    }
+}
+
+TEST(Controls, TooltipsTellOfTerritoriesAndCommands) {
+    GameState game = AnnaAndBen();
+    game.PlayerAt(0).FirstTurn = true;
+    game.PlayerAt(0).MovesLeft = 0;
+    Sitting sitting;
+    sitting.Resume(game);
+    const std::vector<std::pair<QPoint, QString>> rows{
+        {MarkerOf(7),
+         "7 Midwest USA\n&lt;b&gt;Anna (Player 1), 12 troops, 1 tank, factory\nValue 7, oil field\n"
+         "Neighbours: 2 Vancouver Territory, 3 Montreal Territory, 6 Western USA,\n8 Eastern USA, 9 Mexico"},
+        {MarkerOf(16),
+         "16 England\nBen (Player 2), 1 troop, 0 tanks, defense\nValue 6\n"
+         "Neighbours: 5 Greenland, 18 French Territory"},
+        {MarkerOf(35), "35 Japan\nheld by nobody\nValue 7\nNeighbours: 34 Manchurian Territory"}};
+    QWidget& board = Window("frm3");
+    for (const auto& [place, text] : rows) {
+        QHelpEvent rest(QEvent::ToolTip, place, board.mapToGlobal(place));
+        QApplication::sendEvent(&board, &rest);
+        EXPECT_EQ(QToolTip::text(), "<p style='white-space:pre'>" + text + "</p>");
+    }
+    QHelpEvent rest(QEvent::ToolTip, Atlantic, board.mapToGlobal(Atlantic));
+    QApplication::sendEvent(&board, &rest);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    EXPECT_EQ(Control("frm3", "lblBuy").toolTip(), "Key: B");
+    EXPECT_EQ(Control("frm3", "lblAttack").toolTip(), "Nobody attacks in their first turn.");
+    Type("r");
+    EXPECT_EQ(Control("frm3", "lblBuy").toolTip(), "Another window wants to be closed first.");
+    EXPECT_EQ(Control("frmTransport", "lblGo").toolTip(), "You have no move left this turn.");
+}
+
+TEST(Controls, SavedGamesAreListedDeletedAndRefused) {
+    Sitting sitting;
+    for (const char* file : {"Beta.vrs", "alpha.vrs", "gamma.vrs"}) {
+        sitting.Put(file, AnnaAndBen());
+    }
+    QFile bad(sitting.Saves() + "/alpha.vrs");
+    EXPECT_TRUE(QFile::copy(sitting.Saves() + "/alpha.vrs", sitting.Saves() + "/alpha.bak"));
+    EXPECT_TRUE(bad.open(QIODevice::ReadWrite) && bad.write(" 7 ") == 3);
+    bad.close();
+    Click("frm1", "lblLoad");
+    const auto listed = [] {
+        const auto& list = static_cast<QListWidget&>(Control("frmLoad", "flb1"));
+        QStringList files;
+        for (int i = 0; i < list.count(); ++i) {
+            files << list.item(i)->text();
+        }
+        return files.join(' ');
+    };
+    EXPECT_EQ(listed(), "alpha.vrs Beta.vrs gamma.vrs");
+    Click("frmLoad", "lblGo(0)");  // without a selection nothing happens
+    Click("frmLoad", "lblGo(1)");
+    Type("b");
+    const QString question = "NoIcon: Confirm Delete: Are you sure you want to delete the game Beta.vrs?";
+    sitting.Expect({question, "n"});
+    Click("frmLoad", "lblGo(1)");
+    EXPECT_EQ(listed(), "alpha.vrs Beta.vrs gamma.vrs");
+    sitting.Expect({question, "y"});
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(listed(), "alpha.vrs gamma.vrs");
+    EXPECT_EQ(QDir(sitting.Saves()).entryList(QDir::Files).join(' '), "alpha.bak alpha.vrs gamma.vrs");
+    sitting.Expect(
+        {"Warning: The game 'alpha.vrs' could not be loaded.\n"
+         "Line 1: NumPlayers of the game must be a whole number from 2 to 5."});
+    Press(Qt::Key_Down);
+    Type("\n");
+    EXPECT_TRUE(QFile::remove(sitting.Saves() + "/gamma.vrs"));
+    Press(Qt::Key_Down);
+    Type("\n");  // nothing either: it has gone
+    EXPECT_EQ(Desktop(), "Vorlund - Load Game");
+    Close("frmLoad");
+    EXPECT_EQ(Desktop(), "Vorlund");
+    Click("frm1", "lblLoad");
+    EXPECT_EQ(listed(), "alpha.vrs");
+    Click("frmLoad", "lblGo(2)");
+    EXPECT_EQ(Desktop(), "Vorlund");
+}
+
+TEST(Controls, ADoubleClickLoadsWhenTheButtonIsLetGo) {
+    Sitting sitting;
+    sitting.Put("a.vrs", AnnaAndBen());
+    Click("frm1", "lblLoad");
+    auto& list = static_cast<QListWidget&>(Control("frmLoad", "flb1"));
+    QWidget* view = list.viewport();
+    const QPoint place = list.visualItemRect(list.item(0)).center();
+    QTest::mouseClick(view, Qt::LeftButton, {}, place);
+    QTest::mouseDClick(view, Qt::LeftButton, {}, place);
+    EXPECT_EQ(Desktop(), "Vorlund - Load Game");
+    QTest::mouseRelease(view, Qt::LeftButton, {}, place);
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [bsrautev]");
+}
+
+TEST(Controls, ClosingTheFirstScreensEndsTheProgram) {
+    const QString terminate = "NoIcon: Closing this window will terminate your new game.\n";
+    const std::vector<std::pair<QString, QString>> rows{
+        {"frm1", {}},
+        {"frm2", terminate + "Press 'Yes' to exit or 'No' to return."},
+        {"frmSelect", terminate + "Press 'yes' to exit or 'no' to return."}};
+    for (const auto& [window, question] : rows) {
+        Sitting sitting;
+        if (window != "frm1") {
+            Click("frm1", "lblPlay");
+            Type(window == "frmSelect" ? "\nAnna\t\tBen\n" : "");
+            Window(window);
+            sitting.Expect({question, "y"});
+        }
+        EXPECT_TRUE(Ends([&window = window] { Close(window); })) << window.toStdString();
+    }
+    const Sitting sitting;
+    EXPECT_TRUE(Ends([] { Click("frm1", "lblExit"); }));
+}
+
+}  // namespace
+}  // namespace vorlund

@@ -1,0 +1,204 @@
+#include <QDir>
+#include <QTest>
+#include <QWindow>
+
+#include "tests/engine/seeded_random.h"
+#include "tests/rules/scripted_random.h"
+#include "tests/rules/small_worlds.h"
+#include "tests/screens/hands.h"
+
+// Whole games as they are played, by mouse and by keys, on whatever display the test is started on.
+
+namespace vorlund {
+namespace {
+
+const QString Leave =
+    "Question: Closing this game window will end the game.\nAre you sure you want to continue?";
+const QString Terminate = "NoIcon: Closing this window will terminate your new game.\n";
+
+// What the selection screen has to say to a number.
+QString Select(const QString& number) {
+    Type(number + u'\n');
+    return Text("frmSelect", "lbl1");
+}
+
+QString StatusLines() {
+    QStringList lines;
+    for (const char* name :
+         {"Name", "Money", "Oil", "Troops", "Tanks", "Fact", "Debt", "Eco", "War", "Nuc", "AM", "Upkeep"}) {
+        lines << Text("frmStatus", QString("lbl") + name);
+    }
+    return lines.join(" | ");
+}
+
+void BeginAGame(Sitting& sitting) {
+    EXPECT_EQ(Desktop(), "Vorlund");
+    Click("frm1", "lblPlay");
+    EXPECT_EQ(Desktop(), "Vorlund - New Game");
+    Click("frm2", "opt4");
+    Click("frm2", "lblCont");
+    Click("frm2", "cmp(0)");
+    Click("frm2", "cmp(0)");
+    Click("frm2", "cmp(1)");
+    EXPECT_EQ(Text("frm2", "txtN(0)") + u'|' + Text("frm2", "txtN(1)"), "|Computer");
+    EXPECT_FALSE(Control("frm2", "txtN(1)").isEnabled());
+    Fill("frm2", "txtN(2)", "cOmP\n");
+    EXPECT_EQ(Text("frm2", "lbl1"), "Enter a name for Player 4.");
+    EXPECT_EQ(Beeps(), 2);  // once for Player 1 as well
+    EXPECT_EQ(Text("frm2", "txtN(4)"), "(not seen)");
+    sitting.Expect({Terminate + "Press 'Yes' to exit or 'No' to return.", "n"});
+    Close("frm2");
+    Fill("frm2", "txtN(0)", "Anna");
+    Fill("frm2", "txtN(3)", "Benjamin the Great");
+    Click("frm2", "lblCont");
+    Window("frmSelect");
+    EXPECT_EQ(Desktop(), "Vorlund [] | Vorlund - Territory Select");
+    EXPECT_EQ(Text("frmSelect", "lbl1"), "Player 1, Anna, has been chosen to select first.");
+    EXPECT_EQ(Select("43"), "Invalid territory selection.\nPlayer 1, Anna, select again.");
+    EXPECT_EQ(Beeps(), 1);
+    sitting.Expect({Terminate + "Press 'yes' to exit or 'no' to return.", "n"});
+    Close("frmSelect");
+    EXPECT_EQ(Select("7"), "Player 1 selected Midwest USA\nPlayer 4, Benjamin the, select a territory.");
+    EXPECT_EQ(MapFault(sitting.Game()), "");
+    Fill("frmSelect", "txtNum", "180");  // two digits are taken
+    Click("frmSelect", "lblGo");
+}
+
+TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
+    const QTemporaryDir saves;
+    GameState saved;
+    {
+        Sitting sitting(std::make_unique<SeededRandom>(7), saves.path());
+        BeginAGame(sitting);
+        EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [] | Vorlund - Upkeep");
+        EXPECT_EQ(ReportText(),
+                  "Upkeep status for Player 1, Anna.\n"
+                  "Upkeep for Troops and Factories: $21\nUpkeep for Tanks: 0 barrels\n\n"
+                  "Money collected from territories: $43\nRemaining money after expenses: $22\n\n");
+        Click("frmReport", "lblCont");
+        Type("a");  // nobody attacks in their first turn
+        EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrutev]");
+        Click("frm3", "lblEndTurn");
+        EXPECT_EQ(Desktop(), "Vorlund - CompPlayer2's turn [] | Computer player CompPlayer2's status");
+        EXPECT_EQ(ReportText(),
+                  "[Player 2] The computer did the following:\n"
+                  "Moved forces into Colombian Territory.\nMoved forces into Caribbean.\n");
+        EXPECT_EQ(MapFault(sitting.Game()), "");
+        Press(Qt::Key_Escape);
+        EXPECT_EQ(ReportText(),
+                  "[Player 3] The computer did the following:\n"
+                  "Moved forces into Northern Russia.\nMoved forces into Western Russia.\n");
+        Close("frmReport");
+        EXPECT_EQ(Desktop(), "Vorlund - Benjamin the's turn [] | Vorlund - Upkeep");
+        EXPECT_TRUE(ReportText().startsWith("[Player 4] Upkeep status for Player 4, Benjamin the."));
+        Press(Qt::Key_Enter, Qt::KeypadModifier);
+        Type("E\n");
+        EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrautev]");
+
+        Type("b7\t1\t\t3\n");
+        EXPECT_EQ(ReportText(),
+                  "Details on current transaction:\nYou bought 1 Troops for $10 in Midwest USA.\n"
+                  "You bought 3 oil barrels for $1.\n\n        Total spent: $11");
+        Type("\nS7\t2\n\nt");
+        EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [] | Vorlund - Player 1 status");
+        EXPECT_EQ(StatusLines(),
+                  "Anna | $147 | 33 | 9 | 0 | 1 | 0 | 0 | 0 | 0\nDeveloping nuke... | 2 / 2 | + $26");
+        Type("\nv My Game");
+        sitting.Expect({"Information: Game 'my game.vrs' properly saved."});
+        Type("\n");
+        EXPECT_EQ(QDir(saves.path()).entryList(QDir::Files | QDir::Hidden), QStringList("my game.vrs"));
+        saved = sitting.Game();
+        sitting.Expect({Leave, "n"});
+        Close("frm3");
+        sitting.Expect({Leave, "y"});
+        EXPECT_TRUE(Ends([] { Close("frm3"); }));
+    }
+    Sitting sitting(std::make_unique<NoLuck>(), saves.path());
+    Click("frm1", "lblLoad");
+    EXPECT_EQ(Desktop(), "Vorlund - Load Game");
+    Type("my\n");
+    EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrautev]");
+    saved.GameLoaded = true;
+    EXPECT_TRUE(sitting.Game() == saved);
+    EXPECT_EQ(MapFault(saved), "");
+}
+
+TEST(Game, FromASavedGameToTheEnd) {
+    GameState game = NewGame(2);
+    Give(game, 6, 0, 10, 2);
+    GiveFactory(game, 6);
+    Give(game, 7, 1, 2);
+    Give(game, 8, 1, 2);
+    game.PlayerAt(0).Money = 1000;
+    game.PlayerAt(0).HasNuke = true;
+    constexpr float hit = 0.2F;
+    constexpr float miss = 0.9F;
+    Sitting sitting(std::make_unique<ScriptedRandom>(std::vector{hit, miss, hit, hit}));
+    sitting.Resume(game);
+
+    Type("r7\t6\t2\n");
+    EXPECT_EQ(Text("frmTransport", "lblA"), "Move to Western USA was successful.");
+    Type("\t1\n");  // the keyboard has stayed in the field for troops
+    EXPECT_FALSE(Control("frmTransport", "lblGo").isEnabled());
+    EXPECT_EQ(Beeps(), 0);
+    Type("1\n");
+    EXPECT_EQ(Beeps(), 1);
+    EXPECT_EQ(Text("frm3", "lblCntry(5)"), "2/1");
+    Press(Qt::Key_Escape);
+
+    Type("u");
+    Click("frmUpgrade", "lblGo1");
+    EXPECT_EQ(Text("frmUpgrade", "lblTop"), "Level 1 Economy upgrade complete.\nYou have $850 to spend.");
+    Type("6\n\t6\n");
+    EXPECT_EQ(Text("frmUpgrade", "lblTop"), "Defense built in Western USA.\nYou have $570 to spend.");
+    EXPECT_EQ(MapFault(sitting.Game()), "");
+    Press(Qt::Key_Escape);
+
+    Type("a");
+    EXPECT_EQ(Text("frmAttack", "lblA"), "You have 2 attacks left this turn.");
+    Fill("frmAttack", "txtN", "9");
+    Click("frmAttack", "lblStrike");
+    EXPECT_EQ(ReportText(),
+              "Your nuclear attack upon Mexico was successful.\n"
+              "Casualties for Player 2, Ben:\n        Troops: 1\n        Tanks: 0\n\n");
+    EXPECT_EQ(Text("frm3", "lblCntry(8)"), "1/0");
+    Type("\na7\t8\t5\n");
+    EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrautev] | Vorlund - Battle Results");
+    EXPECT_EQ(ReportText(),
+              "The battle was successful... you now have control of Eastern USA.\n"
+              "Casualties for attacker (Player 1, Anna):\n        Troops: 1\n        Tanks: 0\n\n"
+              "Casualties for defender (Player 2, Ben):\n        Troops: 2\n        Tanks: 0\n\n");
+    EXPECT_EQ(MapFault(sitting.Game()), "");
+    Type("\na\t\t\t\t9\n");
+    EXPECT_EQ(Beeps(), 1);  // there was one bomb
+    Fill("frmAttack", "txtC1", "7\t9\t2\n");
+    EXPECT_TRUE(ReportText().endsWith("Player 2 is now dead."));
+    Type("\na");
+    EXPECT_FALSE(Control("frmAttack", "lblAttack").isEnabled());
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Text("frm3", "imgGameOver"), "(not seen)");
+    sitting.Expect({"Warning: Player 1, Anna, you win the game!"});
+    Type("e");
+    EXPECT_EQ(Desktop(), "Vorlund - Anna wins []");
+    EXPECT_EQ(Control("frm3", "imgGameOver").accessibleName(), "Game over");
+    EXPECT_TRUE(Ends([] { Close("frm3"); }));
+}
+
+TEST(Game, TheTitleFollowsThePointer) {
+    Sitting sitting;
+    QWidget& title = Window("frm1");
+    if (QGuiApplication::platformName() == "wayland" || title.windowHandle()->startSystemMove()) {
+        GTEST_SKIP() << "here the desktop alone moves windows";
+    }
+    const QPoint before = title.pos();
+    QTest::mousePress(title.windowHandle(), Qt::LeftButton, {}, {10, 10});
+    QTest::mouseMove(title.windowHandle(), {40, 30});
+    EXPECT_EQ(title.pos() - before, QPoint(30, 20));
+    QTest::mouseRelease(title.windowHandle(), Qt::LeftButton, {}, {10, 10});
+    QTest::mouseMove(title.windowHandle(), {50, 50});
+    EXPECT_EQ(title.pos() - before, QPoint(30, 20));
+    EXPECT_TRUE(Ends([] { Close("frm1"); }));
+}
+
+}  // namespace
+}  // namespace vorlund
