@@ -39,6 +39,8 @@ void CommandDialog::TakeTerritories(std::initializer_list<Field*> fields) {
 }
 
 bool CommandDialog::CloseRequested() {
+    // The second half of a double click would give the same order once more.
+    setEnabled(false);
     GameScreens& screens = program_.screens();
     screens.RestoreCommands();
     if (!screens.report().isVisible()) {
