@@ -12,28 +12,27 @@ import time
 
 PATIENCE = 15  # seconds
 ESCAPE = 9  # the code of the key
-YES_NO = ["push button Yes (Alt+Y)", "push button No (Alt+N)"]
-BUTTON = "push button {}".format
-BOARD = [BUTTON(c) for c in ("Buy (B)", "Sell (S)", "Transport (R)", "Attack (A)", "Upgrade (U)", "Status (T)",
-                             "End Turn (E)", "Save (V)")]
-UNITS = ["text Number of Troops:", "text Number of Tanks:"]
 TURN = "Vorlund - Anna's turn"
+YES_NO = "button Yes (Alt+Y)|button No (Alt+N)"
+BOARD = ("button Buy (B)|button Sell (S)|button Transport (R)|button Attack (A)|button Upgrade (U)|button Status (T)|"
+         "button End Turn (E)|button Save (V)")
 # What the commands of the board lead to, and all that can be done there
 DIALOGS = {
-    "Buy": ("Vorlund - Buy", ["text Territory # with Factory:", "text Number of Troops($10):",
-                              "text Number of Tanks($40):", "text Barrels of Oil($1/3):", BUTTON("Buy (Enter)")]),
-    "Sell": ("Vorlund - Sell", ["text Territory #:", "text Number of Troops($7):", "text Number of Tanks($30):",
-                                "text Barrels of Oil($1/3):", BUTTON("Sell (Enter)")]),
-    "Transport": ("Vorlund - Transport", ["text Original territory #:", "text Resulting territory #:", *UNITS,
-                                          BUTTON("Move (Enter)")]),
-    "Attack": ("Vorlund - Attack", ["text Attacking territory #:", "text Defending territory #:", *UNITS,
-                                    BUTTON("Attack (Enter)"), "text Territory # to nuke:", BUTTON("Launch Nuke (Enter)")]),
-    "Upgrade": ("Vorlund - Upgrade", [BUTTON("Upgrade (Alt+1): Economy"), BUTTON("Upgrade (Alt+2): Warfare"),
-                                      BUTTON("Upgrade (Alt+3): Nuclear"), "text Territory #:: Build Factory",
-                                      BUTTON("Build Factory (Enter)"), "text Territory #:: Build Defense",
-                                      BUTTON("Build Defense (Enter)")]),
-    "Status": ("Vorlund - Player 1 status", [BUTTON("Close (Enter)")]),
-    "Save": ("Vorlund - Save Game", ["text Enter a name for the saved game:", BUTTON("Enter (Enter)")])}
+    "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):|text Number of Tanks($40):|"
+                             "text Barrels of Oil($1/3):|button Buy (Enter)"),
+    "Sell": ("Vorlund - Sell", "text Territory #:|text Number of Troops($7):|text Number of Tanks($30):|"
+                               "text Barrels of Oil($1/3):|button Sell (Enter)"),
+    "Transport": ("Vorlund - Transport", "text Original territory #:|text Resulting territory #:|"
+                                         "text Number of Troops:|text Number of Tanks:|button Move (Enter)"),
+    "Attack": ("Vorlund - Attack", "text Attacking territory #:|text Defending territory #:|text Number of Troops:|"
+                                   "text Number of Tanks:|button Attack (Enter)|text Territory # to nuke:|"
+                                   "button Launch Nuke (Enter)"),
+    "Upgrade": ("Vorlund - Upgrade", "button Upgrade (Alt+1): Economy|button Upgrade (Alt+2): Warfare|"
+                                     "button Upgrade (Alt+3): Nuclear|"
+                                     "text Territory #:: Build Factory|button Build Factory (Enter)|"
+                                     "text Territory #:: Build Defense|button Build Defense (Enter)"),
+    "Status": ("Vorlund - Player 1 status", "button Close (Enter)"),
+    "Save": ("Vorlund - Save Game", "text Enter a name for the saved game:|button Enter (Enter)")}
 
 
 def start_inside(program):
@@ -43,7 +42,8 @@ def start_inside(program):
         env |= {"HOME": home, "XDG_RUNTIME_DIR": home, "SDL_AUDIODRIVER": "dummy", "QT_QPA_PLATFORM": "xcb",
                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "NO_AT_BRIDGE": "0", "LC_ALL": "C.UTF-8",
                 "GSETTINGS_BACKEND": "memory"}  # where nobody has said that there is no screen reader
-        command = ["xvfb-run", "-a", "-s", "-screen 0 1000x800x24", "dbus-run-session", "--", sys.executable, __file__]
+        command = ["xvfb-run", "-a", "-s", "-screen 0 1000x800x24", "dbus-run-session", "--", sys.executable,
+                   "-W", "ignore::DeprecationWarning", __file__]
         return subprocess.run(command + ["--inside", program], env=env, check=False).returncode
 
 
@@ -98,7 +98,7 @@ class Listener:
 
         def same():
             seen[:] = [describe(n) for n in nodes(self.window(window)) if can_be_used(n)]
-            return seen == due
+            return "|".join(seen) == due
         try:
             self.wait_for(window, same)
         except AssertionError:
@@ -108,7 +108,7 @@ class Listener:
 
     def report(self, headline):
         self.wait_for(f"an alert {headline!r}", lambda: headline in self.alerts)
-        self.expect(headline, [BUTTON("Continue (Enter)")])
+        self.expect(headline, "button Continue (Enter)")
         self.press(headline, "Continue")
 
 
@@ -137,30 +137,30 @@ def describe(node):
     key = Atspi.Action.get_key_binding(node, 0) if node.get_n_actions() and not has(node, "EDITABLE") else ""
     more = node.get_description() if has(node, "ENABLED") else ""  # of one that is disabled it says why
     more = "" if more.startswith(("Key: ", "You have no")) else more
-    return f"{node.get_role_name()} {node.get_name()}" + (f" ({key})" if key else "") + (f": {more}" if more else "")
+    return f"{node.get_role_name().split()[-1]} {node.get_name()}" + (f" ({key})" if key else "") + (f": {more}" if more else "")
 
 
 def play(game):
-    game.expect("Vorlund", [BUTTON("Play Game"), BUTTON("Load Game"), BUTTON("Exit")])
+    game.expect("Vorlund", "button Play Game|button Load Game|button Exit")
     game.press("Vorlund", "Play Game")
-    new_game = "Vorlund - New Game"
-    go_on = BUTTON("Continue > (Enter)")
-    game.expect(new_game, [f"radio button {n} Players" for n in (2, 3, 4, 5)] + [go_on])
-    game.press(new_game, "3 Players")
-    game.wait_for("the choice", lambda: has(game.control(new_game, "3 Players"), "CHECKED"))
-    game.press(new_game, "2 Players")
-    game.press(new_game, "Continue >")
+    name = "Vorlund - New Game"
+    game.expect(name, "button 2 Players|button 3 Players|button 4 Players|button 5 Players|button Continue > (Enter)")
+    assert game.control(name, "2 Players").get_role() == Atspi.Role.RADIO_BUTTON
+    game.press(name, "3 Players")
+    game.wait_for("the choice", lambda: has(game.control(name, "3 Players"), "CHECKED"))
+    game.press(name, "2 Players")
+    game.press(name, "Continue >")
     computer = "Player {} is played by the computer".format
-    rows = [[f"text Player {n}'s name:", f"check box {computer(n)}: {computer(n)}"] for n in (1, 2)]
-    game.expect(new_game, rows[0] + rows[1] + [go_on])
-    game.press(new_game, computer(2))
-    game.wait_for("the tick", lambda: has(game.control(new_game, computer(2)), "CHECKED"))
-    game.type(new_game, "Player 1's name:", "Anna")
-    game.press(new_game, "Continue >")
-    select = "Vorlund - Territory Select"
-    game.expect(select, ["text Territory number (1-42):", BUTTON("Enter (Enter)")])
-    game.type(select, "Territory number (1-42):", "7")
-    game.press(select, "Enter")
+    rows = [f"text Player {n}'s name:|box {computer(n)}: {computer(n)}|" for n in (1, 2)]
+    game.expect(name, rows[0] + rows[1] + "button Continue > (Enter)")
+    game.press(name, computer(2))
+    game.wait_for("the tick", lambda: has(game.control(name, computer(2)), "CHECKED"))
+    game.type(name, "Player 1's name:", "Anna")
+    game.press(name, "Continue >")
+    name = "Vorlund - Territory Select"
+    game.expect(name, "text Territory number (1-42):|button Enter (Enter)")
+    game.type(name, "Territory number (1-42):", "7")
+    game.press(name, "Enter")
     game.report("Upkeep status for Player 1, Anna.")
     told = [n.get_name() for n in nodes(game.window(TURN)) if ": " in n.get_name()]
     assert "7 Midwest USA: Anna (Player 1), 10 troops, 0 tanks, factory" in told and len(told) > 1, told
@@ -172,12 +172,12 @@ def play(game):
         game.press(TURN, command)
         game.expect(title, due)
         if command in ("Buy", "Sell"):
-            for field, text in zip(due, ("7", "1", "0", "0")):
+            for field, text in zip(due.split("|"), ("7", "1", "0", "0")):
                 game.type(title, field[5:], text)
             game.press(title, command)
             game.report("Details on current transaction:")
         elif command == "Save":
-            game.type(title, due[0][5:], "walk")
+            game.type(title, "Enter a name for the saved game:", "walk")
             game.press(title, "Enter")
             game.press("Vorlund", "OK")
         elif command == "Status":
@@ -189,8 +189,8 @@ def play(game):
 def load(game):
     game.press("Vorlund", "Load Game")
     name = "Vorlund - Load Game"
-    game.expect(name, ["list Select a saved game from the list below:", "list item walk.vrs",
-                       BUTTON("Load Game (Enter)"), BUTTON("Delete Game (Delete)"), BUTTON("Cancel")])
+    game.expect(name, "list Select a saved game from the list below:|item walk.vrs|"
+                      "button Load Game (Enter)|button Delete Game (Delete)|button Cancel")
     assert Atspi.Action.do_action(game.control(name, "walk.vrs"), 0), "a saved game cannot be selected"
     game.press(name, "Delete Game")
     game.expect("Confirm Delete", YES_NO)

@@ -67,13 +67,10 @@ TEST(Crossings, ARefusalLeavesTheGameTheDialogAndItsEntries) {
 TEST(Crossings, EveryWayOutOfADialogGivesTheCommandsBack) {
     Sitting sitting;
     sitting.Resume(Neighbours());
-    const std::vector<std::pair<QString, QString>> dialogs{
-        {"b", "Buy"},     {"s", "Sell"},      {"r", "Transport"},      {"a", "Attack"},
-        {"u", "Upgrade"}, {"v", "Save Game"}, {"t", "Player 1 status"}};
-    for (const auto& [key, title] : dialogs) {
+    for (const QString key : {"b", "s", "r", "a", "u", "v", "t"}) {
         for (const bool byEscape : {true, false}) {
             Type(byEscape ? key : key.toUpper());
-            EXPECT_EQ(Desktop(), Waiting + "Vorlund - " + title);
+            EXPECT_TRUE(Desktop().startsWith(Waiting + "Vorlund - ")) << key.toStdString();
             byEscape ? Type("\033") : Close(QApplication::activeWindow()->objectName());
             EXPECT_EQ(Desktop(), AnnasTurn);
         }

@@ -69,7 +69,7 @@ TEST_F(SoundOnDisk, EveryRecordingIsHeardInItsLength) {
     for (const auto& [name, length] : rows) {
         Sound sound;
         sound.PlayWave(name);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Heard().size() > length; }, 10000)) << name;
+        EXPECT_TRUE(QTest::qWaitFor([this, due = length] { return Heard().size() > due; }, 10000)) << name;
         const std::vector<int> heard = Heard();
         EXPECT_TRUE(Loudest(heard) > 16000 && Loudest(heard) < 32000) << name << Loudest(heard);
         const auto last = std::find_if(heard.rbegin(), heard.rend(), [](int x) { return x != 0; });
