@@ -106,6 +106,13 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
         Type("\nv My Game");
         sitting.Expect({"Information: Game 'my game.vrs' properly saved."});
         Type("\n");
+        const QString again = "NoIcon: Saved game already exists...\nWould you like to overwrite this file?";
+        sitting.Expect({again, "n"});
+        sitting.Expect({"Information: Game not saved...\nChoose a different name and try again."});
+        Type("vMY GAME\n");
+        sitting.Expect({again, "y"});
+        sitting.Expect({"Information: Game 'my game.vrs' properly saved."});
+        Type("\n");
         EXPECT_EQ(QDir(saves.path()).entryList(QDir::Files | QDir::Hidden), QStringList("my game.vrs"));
         saved = sitting.Game();
         sitting.Expect({Leave, "n"});
