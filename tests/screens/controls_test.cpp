@@ -220,13 +220,15 @@ TEST(Controls, ClosingTheFirstScreensEndsTheProgram) {
     const std::vector<std::pair<QString, QString>> rows{
         {"frm1", {}},
         {"frm2", terminate + "Press 'Yes' to exit or 'No' to return."},
-        {"frmSelect", terminate + "Press 'yes' to exit or 'no' to return."}};
+        {"frmSelect", terminate + "Press 'yes' to exit or 'no' to return."},
+        {"frm3",
+         "Question: Closing this game window will end the game.\nAre you sure you want to continue?"}};
     for (const auto& [window, question] : rows) {
         Sitting sitting;
         if (window != "frm1") {
             Click("frm1", "lblPlay");
-            Type(window == "frmSelect" ? "\nAnna\t\tBen\n" : "");
-            Window(window);
+            Type(window == "frm2" ? "" : "\nAnna\t\tBen\n");
+            Window(window == "frm2" ? "frm2" : "frmSelect");
             sitting.Expect({question, "y"});
         }
         EXPECT_TRUE(Ends([&window = window] { Close(window); })) << window.toStdString();
