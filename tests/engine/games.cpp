@@ -1,13 +1,13 @@
 #include "tests/engine/games.h"
 
-#include <array>
+#include <algorithm>
+#include <vector>
 
+#include "savegame/format.h"
 #include "setup/new_game.h"
 #include "setup/selection.h"
-#include "state/int16.h"
-#include "state/ownership.h"
-#include "state/world.h"
-#include "tests/engine/entries.h"
+#include "state/consistent.h"
+#include "tests/rules/small_worlds.h"
 
 namespace vorlund {
 namespace {
@@ -16,47 +16,28 @@ constexpr std::array Names{"Anna",       "comp",   "COMPUTER", "Computer", "a,b"
                            "Zo\xC3\xAB", "\"q\"",  "",         "1",        "True", "\xE2\x82\xAC uro",
                            "\xD0\x96uk", "tab\tb", "0",        "-1",       "x",    "CompPlayer1"};
 
-/// Mostly small, sometimes at the end of the range.
-std::int16_t Units(Random& hands, int most) {
-    return hands.Draw(50) == 0 ? ClampInt16(32767 - hands.Draw(3)) : ClampInt16(hands.Draw(most));
+constexpr std::array Nasty{"",     " ",   "abc", "0",    "-1",    "-0.4",  ".5",     "1.5", "2.5",  "41.5",
+                           "42.5", "43",  "4e4", "-9e9", "32767", "32768", "-32768", "1e3", "1e-9", "1e999",
+                           "+3",   " 7 ", "7 7", "0x1F", "inf",   "nan",   "1,5",    "--1", "+-1",  "5.",
+                           ".",    "1e",  "\t1", "1\n",  "\r",    "\"1\"", "½",      "99",  "3.9",  "-.5"};
+
+/// Mostly small, sometimes at the end of the range, but no more than `room`.
+std::int16_t Units(Random& hands, int most, int room = 32767) {
+    return ClampInt16(std::min(OneIn(50, hands) ? 32767 - hands.Draw(3) : hands.Draw(most), room));
 }
 
-void Populate(GameState& game, Random& hands, int t) {
-    Player& owner = game.PlayerAt(game.TerritoryAt(t).Owner);
-    Territory& territory = game.TerritoryAt(t);
-    // A human's totals are exact, so they bound what may stand on the map.
-    territory.Troops = ClampInt16(std::min<int>(Units(hands, 60), 32767 - owner.Troops));
-    territory.Tanks = ClampInt16(std::min<int>(Units(hands, 8), 32767 - owner.Tanks));
-    territory.HasFactory = hands.Draw(4) == 0;
-    territory.HasDefense = hands.Draw(4) == 0;
-    Add(owner.Troops, territory.Troops);
-    Add(owner.Tanks, territory.Tanks);
-    Add(owner.Factories, territory.HasFactory ? 1 : 0);
-}
-
-void Equip(Player& player, Random& hands) {
-    player.Money = ClampInt16(hands.Draw(5) == 0 ? hands.Draw(65536) - 32768 : hands.Draw(800));
-    player.Oil = Units(hands, 100);
-    for (std::int16_t* const level : {&player.EconomyLevel, &player.WarfareLevel, &player.NuclearLevel}) {
-        *level = ClampInt16(hands.Draw(4));
+int OwnTerritory(const GameState& game, Random& hands) {
+    std::vector<int> own;
+    for (int t = 0; t < NumTerritories; ++t) {
+        const int units = game.TerritoryAt(t).Troops + game.TerritoryAt(t).Tanks;
+        if (Owns(game, game.CurrentPlayer, t) && (units > 0 || OneIn(4, hands))) {
+            own.push_back(t);
+        }
     }
-    player.DebtTurns = ClampInt16(hands.Draw(3));
-    player.HasNuke = hands.Draw(3) == 0;
-    player.FirstTurn = hands.Draw(6) == 0;
-    player.MovesLeft = player.AttacksLeft = 2;
-    Add(player.Troops, player.IsComputer ? -hands.Draw(500) : 0);
+    return own.empty() ? hands.Draw(NumTerritories) : Any(own, hands);
 }
 
 }  // namespace
-
-std::vector<std::string> RandomNames(Random& hands) {
-    std::vector<std::string> names(static_cast<std::size_t>(2 + hands.Draw(4)));
-    for (std::string& name : names) {
-        name = Names[static_cast<std::size_t>(
-            hands.Draw(hands.Draw(4) == 0 ? static_cast<int>(Names.size()) : 3))];
-    }
-    return names;
-}
 
 GameState FreshGame() {
     GameState game;
@@ -66,13 +47,12 @@ GameState FreshGame() {
 
 GameState RandomNewGame(Random& hands, Random& chance) {
     GameState game = FreshGame();
-    for (;;) {
-        const std::vector<std::string> names = RandomNames(hands);
+    std::vector<std::string> names;
+    do {
+        names.resize(static_cast<std::size_t>(2 + hands.Draw(4)));
+        std::generate(names.begin(), names.end(), [&] { return NameEntry(hands); });
         game.NumPlayers = static_cast<std::int16_t>(names.size());
-        if (!EnterNames(game, names)) {
-            break;
-        }
-    }
+    } while (EnterNames(game, names));
     Selection selection(game, chance);
     selection.Open();
     while (selection.Entr(TerritoryEntry(game, hands)).What != Selection::Step::Kind::Ended) {
@@ -81,29 +61,106 @@ GameState RandomNewGame(Random& hands, Random& chance) {
 }
 
 GameState RandomPosition(Random& hands) {
-    GameState game = FreshGame();
-    game.NumPlayers = static_cast<std::int16_t>(2 + hands.Draw(4));
-    for (int p = 0; p < game.NumPlayers; ++p) {
-        game.PlayerAt(p).Name = "P" + std::to_string(p + 1);
-        game.PlayerAt(p).IsComputer = p > 0 && hands.Draw(2) == 0;
-    }
+    GameState game = NewGame(2 + hands.Draw(4));
     const int emptiness = hands.Draw(4);
     for (int t = 0; t < NumTerritories; ++t) {
-        const int owner = t == 0 ? 0 : t == NumTerritories - 1 ? 1 : hands.Draw(game.NumPlayers + emptiness);
-        if (owner < game.NumPlayers) {
-            Claim(game, t, owner);
-            Populate(game, hands, t);
+        const int p = t < 2 ? t : hands.Draw(game.NumPlayers + emptiness);
+        if (p < game.NumPlayers) {
+            // A human's totals are exact, so they bound what may stand on the map.
+            const Player& owner = game.PlayerAt(p);
+            Give(game, t, p, Units(hands, 60, 32767 - owner.Troops), Units(hands, 8, 32767 - owner.Tanks));
+            if (OneIn(4, hands)) {
+                GiveFactory(game, t);
+            }
+            game.TerritoryAt(t).HasDefense = OneIn(4, hands);
         }
     }
     for (int p = 0; p < game.NumPlayers; ++p) {
         Player& player = game.PlayerAt(p);
-        Equip(player, hands);
-        if (std::find(player.Owns.begin(), player.Owns.end(), true) == player.Owns.end()) {
-            player.IsDead = true;
-            ++game.DeadPlayers;
+        player.IsComputer = p > 0 && OneIn(2, hands);
+        Add(player.Troops, player.IsComputer ? -hands.Draw(500) : 0);
+        player.Money = ClampInt16(OneIn(5, hands) ? hands.Draw(65536) - 32768 : hands.Draw(800));
+        player.Oil = Units(hands, 100);
+        player.EconomyLevel = player.WarfareLevel = player.NuclearLevel = Units(hands, 4, 3);
+        player.DebtTurns = Units(hands, 3, 2);
+        player.HasNuke = OneIn(3, hands);
+        player.FirstTurn = OneIn(6, hands);
+        if (std::count(player.Owns.begin(), player.Owns.end(), true) == 0) {
+            Bury(game, p);
         }
     }
     return game;
+}
+
+std::string NameEntry(Random& hands) {
+    return Names[static_cast<std::size_t>(hands.Draw(OneIn(4, hands) ? static_cast<int>(Names.size()) : 3))];
+}
+
+std::string TerritoryEntry(const GameState& game, Random& hands) {
+    const int t = OneIn(4, hands) ? hands.Draw(NumTerritories) : OwnTerritory(game, hands);
+    return OneIn(8, hands) ? Any(Nasty, hands) : std::to_string(t + 1);
+}
+
+std::string QuantityEntry(int limit, Random& hands) {
+    const int temper = hands.Draw(8);
+    const int amount = temper < 4 ? limit : hands.Draw(std::max(limit, 0) + 2);
+    return temper == 6 ? "" : temper == 7 ? Any(Nasty, hands) : std::to_string(amount);
+}
+
+Route RandomRoute(const GameState& game, Random& hands) {
+    const int from = OwnTerritory(game, hands);
+    const Territory& source = game.TerritoryAt(from);
+    const int slot = Any(source.Neighbours, hands);
+    const int to = slot == NoNeighbour ? source.Neighbours[0] : slot;
+    return {OneIn(10, hands) ? TerritoryEntry(game, hands) : std::to_string(from + 1),
+            OneIn(10, hands) ? TerritoryEntry(game, hands) : std::to_string(to + 1), source.Troops,
+            source.Tanks};
+}
+
+std::string BrokenRecords(const GameState& game) {
+    if (!Consistent(game)) {
+        return "the records do not agree";
+    }
+    std::array<Player, MaxPlayers> sums;
+    for (const Territory& territory : game.Territories) {
+        if (territory.Occupied) {
+            Player& sum = sums[static_cast<std::size_t>(territory.Owner)];
+            Add(sum.Troops, territory.Troops);
+            Add(sum.Tanks, territory.Tanks);
+            Add(sum.Factories, territory.HasFactory ? 1 : 0);
+        }
+    }
+    for (std::size_t p = 0; p < static_cast<std::size_t>(game.NumPlayers); ++p) {
+        const Player& player = game.Players[p];
+        const bool units = player.Troops == sums[p].Troops && player.Tanks == sums[p].Tanks;
+        if (!player.IsDead && (player.Factories != sums[p].Factories || !(units || player.IsComputer))) {
+            return "the totals of player " + std::to_string(p + 1) + " are wrong";
+        }
+    }
+    return "";
+}
+
+std::string BrokenCommands(const GameState& game, CommandSet given) {
+    const Player& player = game.Current();
+    CommandSet exact = player.IsDead ? CommandSet::Only(Command::EndTurn) : CommandSet::All();
+    exact = player.FirstTurn ? exact.Without(Command::Attack) : exact;
+    const bool over = game.GameOver || game.DeadPlayers == game.NumPlayers;
+    return given == CommandSet::None() || (given == exact && !over) ? "" : "not an exact set of commands";
+}
+
+std::string BrokenSaving(const GameState& game) {
+    const std::string bytes = WriteGame(game);
+    const auto read = ReadGame(FreshGame(), bytes);
+    if (const auto* bad = std::get_if<BadFile>(&read)) {
+        return "the saved game is refused: " + bad->What;
+    }
+    GameState loaded = std::get<GameState>(read);
+    // What a saved game does not carry; records of nobody hold what a refused setup left there.
+    loaded.GameLoaded = game.GameLoaded;
+    loaded.StartingPlayer = game.StartingPlayer;
+    std::copy(game.Players.begin() + game.NumPlayers, game.Players.end(),
+              loaded.Players.begin() + game.NumPlayers);
+    return loaded == game && WriteGame(loaded) == bytes ? "" : "the loaded game is another";
 }
 
 }  // namespace vorlund

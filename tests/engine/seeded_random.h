@@ -7,19 +7,18 @@
 
 namespace vorlund {
 
-/// Chance that plays the same game again for the same seed: reseeding is counted and otherwise ignored.
+/// Chance that plays the same game again for the same seed: reseeding does nothing.
 class SeededRandom final : public Random {
 public:
     explicit SeededRandom(std::uint32_t seed) : engine_(seed) {}
 
     std::int64_t Draws = 0;
-    std::int64_t Reseedings = 0;
 
     float Uniform() override {
         ++Draws;
         return static_cast<float>(engine_() >> 8U) * 0x1p-24F;
     }
-    void Reseed() override { ++Reseedings; }
+    void Reseed() override {}
 
 private:
     std::mt19937 engine_;

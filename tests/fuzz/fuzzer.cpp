@@ -1,6 +1,5 @@
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <stdexcept>
 
 #include "tests/fuzz/inputs.h"
 
@@ -8,8 +7,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string wrong = vorlund::VORLUND_CHECK({reinterpret_cast<const char*>(data), size});
     if (!wrong.empty()) {
-        std::fprintf(stderr, "%s\n", wrong.c_str());
-        std::abort();
+        throw std::runtime_error(wrong);
     }
     return 0;
 }

@@ -1,277 +1,268 @@
-#include "tests/monkey/monkey.h"
-
-#include <unistd.h>
-#include <QApplication>
-#include <QClipboard>
-#include <QDir>
 #include <QTest>
-#include <QThread>
-#include <QTimerEvent>
-#include <QUrl>
-#include <QWindow>
-#include <csignal>
-#include <cstdio>
-#include <tuple>
+#include <QtWidgets>
 
-#include "savegame/format.h"
-#include "tests/engine/checks.h"
 #include "tests/engine/games.h"
+#include "tests/engine/seeded_random.h"
 #include "ui/frm3.h"
-#include "ui/frmReport.h"
+#include "ui/held_keys.h"
+#include "ui/program.h"
 
 namespace vorlund {
 namespace {
 
-constexpr qint64 LongestEvent = 2000;    // milliseconds
-constexpr qint64 LongestNothing = 1000;  // without anything to do, likewise
-constexpr unsigned HungAfter = 60;       // seconds
-constexpr int PositionsPerRun = 3;
-constexpr int EventsPerSaving = 8;
+constexpr qint64 LongestEvent = 2000;  // milliseconds
+
+const std::array<QString, 24> NastyNames{
+    "Computer", "comp",      "a,b",     "\"",     "\"q\"",    "q\"q", " lead",      "trail ",
+    "..",       "../x",      "a/b",     "CON",    "%1%2%s",   "<b>x", "&amp;&&",    "x\ny",
+    "\r",       "\u202Eabc", "\u20AC5", "\u0416", "e\u0301e", "\tx",  "\U0001F680", QString(300, u'M')};
+
+const QString Keys = QStringLiteral(
+    "B,S,R,A,U,T,E,V,E,E,Return,Return,Enter,Escape,Tab,Shift+Tab,Space,Delete,Backspace,Up,Down,PgDown,Home,"
+    "Ctrl+V,Menu,F1,Alt+F4,Alt+1,Alt+3,Ctrl+Z,Ctrl+V,Shift+T,\u00DF");
 
 QString toolkitMessage;
 
 /// What the toolkit has to say is a fault of ours, but for what a platform cannot do, and for hands that come
 /// too late.
 void TakeMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
-    if (!message.startsWith(QLatin1String("This plugin does not support")) &&
-        !message.startsWith(QLatin1String("Mouse event at")) &&
-        !message.contains(QLatin1String("setNetWmStateOnUnmappedWindow"))) {
-        toolkitMessage = message;
-    }
+    static const QRegularExpression harmless(
+        QStringLiteral("^This plugin does not support|^Mouse event at|setNetWmStateOnUnmappedWindow"));
+    toolkitMessage = message.contains(harmless) ? toolkitMessage : message;
 }
 
-QWidget* WindowCalled(const QString& name) {
-    for (QWidget* window : WindowsOnScreen()) {
-        if (NameOf(*window) == name) {
-            return window;
+QString NameOf(const QWidget& window) {
+    return QString::fromLatin1(window.metaObject()->className());
+}
+
+/// The windows that a hand can reach, by name, for the toolkit keeps them in no order that would come again.
+QList<QWidget*> WindowsOnScreen() {
+    QList<QWidget*> windows = QApplication::topLevelWidgets();
+    windows.removeIf([](const QWidget* window) {
+        return !window->isVisible() || window->windowType() == Qt::ToolTip || !window->windowHandle();
+    });
+    std::sort(windows.begin(), windows.end(), [](auto* a, auto* b) { return NameOf(*a) < NameOf(*b); });
+    return windows;
+}
+
+/// What `window` shows of one kind; the dialogs that it owns are its children too.
+template <class Widget>
+QList<Widget*> Shown(const QWidget& window) {
+    QList<Widget*> shown = window.findChildren<Widget*>();
+    shown.removeIf([&](const Widget* widget) { return !widget->isVisible() || widget->window() != &window; });
+    return shown;
+}
+
+/// Random hands at the real windows of one run of the real program. After each event everything must still be
+/// well. The same seed does the same again.
+class Monkey : public QObject {
+public:
+    explicit Monkey(int seed) : seed_(seed), mind_(static_cast<std::uint32_t>(seed)) {
+        for (const char* const file : {"a.vrs", "b.vrs", "c.vrs"}) {
+            program_.saves().Save(file, RandomPosition(mind_));
         }
+        QFile(folder_.filePath(QStringLiteral("empty.vrs"))).open(QIODevice::WriteOnly);
+        QGuiApplication::clipboard()->clear();
     }
-    return nullptr;
-}
 
-void Type(QWindow& window, Qt::Key key, const QString& text, int modifiers = Qt::NoModifier) {
-    QTest::sendKeyEvent(QTest::Click, &window, key, text, Qt::KeyboardModifiers(modifiers));
-}
-
-}  // namespace
-
-Monkey::Monkey(std::uint32_t seed, int events, const QString& log, const QStringList& script)
-    : thoughts_(seed), scripted_(!script.isEmpty()), script_(script), eventsLeft_(events), log_(log) {
-    log_.open(QIODevice::WriteOnly);
-    qInstallMessageHandler(TakeMessage);
-}
-
-int Monkey::Run() {
-    while (!complaint_ && eventsLeft_ > 0 && !(scripted_ && script_.isEmpty())) {
-        const QString line = scripted_ ? script_.takeFirst() : thoughts_.Start();
-        if (line.startsWith(QLatin1String("start"))) {
-            RunProgram(line);
+    /// Runs the program until it ends or `events` are done; gives how many were done.
+    int Play(qsizetype events) {
+        std::fprintf(stderr, "seed %d: ", seed_);
+        eventsAllowed_ = events;
+        sinceEvent_.start();
+        program_.Start();
+        startTimer(0);
+        QApplication::exec();
+        if (!WindowsOnScreen().isEmpty()) {
+            GiveUp("the program has ended, but not all of its windows");
         }
+        std::fprintf(stderr, "%lld events%s\n", done_.size(),
+                     program_.game().GameOver ? ", a whole game" : "");
+        return static_cast<int>(done_.size());
     }
-    if (complaint_) {
-        std::printf("BROKEN: %s\n", complaint_->c_str());
-        return 1;
-    }
-    for (auto entry = tally_.cbegin(); entry != tally_.cend(); ++entry) {
-        std::printf("%8d %s\n", entry.value(), qPrintable(entry.key()));
-    }
-    return 0;
-}
 
-void Monkey::RunProgram(const QString& start) {
-    log_.write(start.toUtf8() + '\n');
-    ++tally_[QStringLiteral("(programs)")];
-    SeededRandom random(start.section(u' ', 1).toUInt());
-    FillFolder(random);
-    Program program(std::make_unique<SeededRandom>(random), SavedGamesFolder(folder_.path().toStdString()));
-    program_ = &program;
-    sinceEvent_.start();
-    sinceSomethingToDo_.start();
-    program.Start();
-    startTimer(0);
-    QApplication::exec();
-    program_ = nullptr;
-    tally_[QStringLiteral("(games over)")] += program.game().GameOver ? 1 : 0;
-    for (const QWidget* left : WindowsOnScreen()) {
-        complaint_ = complaint_.value_or("the program has ended, but not " + NameOf(*left).toStdString());
-    }
-}
-
-void Monkey::FillFolder(SeededRandom& random) {
-    // Nothing is left from one run to the next, so that each can be done again by itself.
-    for (QDir folder(folder_.path()); const QString& old : folder.entryList(QDir::Files)) {
-        folder.remove(old);
-    }
-    for (int i = 0; i < PositionsPerRun; ++i) {
-        QFile file(folder_.filePath(QStringLiteral("1 position %1.vrs").arg(i)));
-        file.open(QIODevice::WriteOnly);
-        std::string bytes = WriteGame(RandomPosition(random));
-        if (random.Draw(8) == 0) {
-            bytes[static_cast<std::size_t>(random.Draw(static_cast<int>(bytes.size())))] = 'x';
+protected:
+    void timerEvent(QTimerEvent* event) override {
+        // A timer of its own for each event: one during which a message box waits must not hold up the next.
+        killTimer(event->timerId());
+        startTimer(0);
+        const int depth = QThread::currentThread()->loopLevel();
+        if (depth <= actingAt_) {
+            return;
         }
-        file.write(QByteArray::fromStdString(bytes));
-    }
-}
-
-void Monkey::timerEvent(QTimerEvent* event) {
-    // A timer of its own for each event: one that is still being carried out, because a message box waits
-    // for its answer, must not hold up the next.
-    killTimer(event->timerId());
-    if (program_ == nullptr) {
-        return;
-    }
-    startTimer(0);
-    const int depth = QThread::currentThread()->loopLevel();
-    if (depth <= actingAt_) {
-        return;
-    }
-    complaint_ = complaint_.has_value() ? complaint_ : Complaint();
-    const auto line = complaint_ ? std::nullopt : NextLine();
-    if (!line) {
-        Finish();
-        return;
-    }
-    const int before = std::exchange(actingAt_, depth);
-    Perform(*line);
-    actingAt_ = before;
-}
-
-std::optional<QString> Monkey::NextLine() {
-    if (scripted_) {
-        const bool more = !script_.isEmpty() && !script_.front().startsWith(QLatin1String("start"));
-        return more ? std::optional(script_.takeFirst()) : std::nullopt;
-    }
-    return eventsLeft_ > 0 ? std::optional(thoughts_.Next(program_->game())) : std::nullopt;
-}
-
-void Monkey::Finish() {
-    if (complaint_) {
-        std::printf("BROKEN: %s\n", complaint_->c_str());
-        for (const QWidget* window : WindowsOnScreen()) {
-            std::printf("  on screen: %s, \"%s\"\n", qPrintable(NameOf(*window)),
-                        qPrintable(window->windowTitle()));
+        if (const std::string broken = Broken(); !broken.empty()) {
+            GiveUp(broken);
         }
-        std::fflush(nullptr);
-        std::_Exit(1);
+        const int before = std::exchange(actingAt_, depth);
+        if (done_.size() < eventsAllowed_) {
+            Act();
+        } else if (auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            box->done(0);  // before the program ends, for the code that asked waits
+        } else if (depth == 1) {
+            program_.End();
+        }
+        actingAt_ = before;
     }
-    // A box keeps the code that asked for it waiting, so the boxes go first.
-    if (QThread::currentThread()->loopLevel() == 1) {
-        program_->End();
-    } else if (QWidget* popup = QApplication::activePopupWidget()) {
-        popup->close();
-    } else if (QWidget* box = QApplication::activeModalWidget()) {
-        box->close();
-    }
-}
 
-void Monkey::Perform(const QString& line) {
-    --eventsLeft_;
-    const QString kind = line.section(u' ', 0, 0);
-    const QString name = line.section(u' ', 1, 1);
-    log_.write(line.toUtf8() + '\n');
-    log_.flush();
-    ++tally_[name];
-    if (scripted_) {
-        // Windows that a timer opens take their time, which the thoughts had spent on others.
-        std::ignore = QTest::qWaitFor([&] { return WindowCalled(name) != nullptr; }, 50);
-    }
-    sinceEvent_.start();
-    alarm(HungAfter);
-    if (QWidget* window = WindowCalled(name)) {
-        Perform(*window->windowHandle(), kind, line.section(u' ', 2).split(u' '));
-    }
-}
-
-void Monkey::Perform(QWindow& window, const QString& kind, const QStringList& details) {
-    if (kind == QLatin1String("close")) {
-        window.close();
-    } else if (kind == QLatin1String("activate")) {
-        window.requestActivate();
-    } else if (kind == QLatin1String("key")) {
-        Type(window, static_cast<Qt::Key>(details[0].toInt()),
-             QUrl::fromPercentEncoding(details[2].toLatin1()), details[1].toInt());
-    } else if (kind == QLatin1String("type") || kind == QLatin1String("paste")) {
-        const QString text = QUrl::fromPercentEncoding(details[0].toLatin1());
-        Type(window, Qt::Key_A, {}, Qt::ControlModifier);
-        Type(window, Qt::Key_Delete, {});
-        if (kind == QLatin1String("paste")) {
-            QGuiApplication::clipboard()->setText(text);
-            Type(window, Qt::Key_V, {}, Qt::ControlModifier);
+private:
+    void Act() {
+        if (NothingCanBeDone()) {
+            return;
+        }
+        sinceEvent_.start();
+        QWidget* const popup = QApplication::activePopupWidget();
+        QWidget* const foremost = popup != nullptr ? popup : QApplication::activeModalWidget();
+        const bool strays = foremost == nullptr || OneIn(10, mind_);
+        const QWidget& window = strays ? *Any(WindowsOnScreen(), mind_) : *foremost;
+        const auto buttons = Shown<QAbstractButton>(window);
+        const auto fields = Shown<QLineEdit>(window);
+        const bool mayEndGame = window.parentWidget() == nullptr && !program_.game().GameOver;
+        const int kind = mind_.Draw(100);
+        if (kind < 4 && (!mayEndGame || OneIn(10, mind_))) {
+            done_ << NameOf(window) + QStringLiteral(" closed");
+            window.windowHandle()->close();
+        } else if (kind < 6) {
+            done_ << NameOf(window) + QStringLiteral(" activated");
+            window.windowHandle()->requestActivate();
+        } else if (kind < 30) {
+            done_ << NameOf(window) + u' ' + Any(Keys.split(u','), mind_);
+            const QKeyCombination key = QKeySequence(done_.last().section(u' ', 1))[0];
+            QTest::keyClick(window.windowHandle(), key.key(), key.keyboardModifiers());
+        } else if (kind < 60 && !fields.isEmpty()) {
+            Fill(window, fields);
         } else {
+            Click(window, kind < 66 || buttons.isEmpty() ? window : *Any(buttons, mind_));
+        }
+    }
+
+    void Click(const QWidget& window, const QWidget& target) {
+        const QPoint within(mind_.Draw(target.width()), mind_.Draw(target.height()));
+        const QPoint place = target.mapTo(&window, within);
+        const auto button = OneIn(10, mind_) ? Qt::RightButton : Qt::LeftButton;
+        const char* const kind = Any(std::array{"hover", "double", "click", "click", "click"}, mind_);
+        done_ << QStringLiteral("%1 %2 %3 %4").arg(NameOf(window), kind).arg(place.x()).arg(place.y());
+        if (*kind == 'h') {
+            QTest::mouseMove(window.windowHandle(), place);
+        } else if (*kind == 'd') {
+            QTest::mouseDClick(window.windowHandle(), button, {}, place);
+        } else {
+            QTest::mouseClick(window.windowHandle(), button, {}, place);
+        }
+    }
+
+    /// Types into all fields of a window, often with Enter.
+    void Fill(const QWidget& window, const QList<QLineEdit*>& fields) {
+        const Route route = RandomRoute(program_.game(), mind_);
+        QWindow* const hands = window.windowHandle();
+        done_ << NameOf(window);
+        for (const QLineEdit* field : fields) {
+            const QString text = Entry(field->objectName(), route);
+            done_.last() += u' ' + field->objectName() + u' ' + text;
+            QGuiApplication::clipboard()->setText(text);
+            QTest::mouseClick(hands, Qt::LeftButton, {}, field->geometry().center());
+            QTest::keyClick(hands, Qt::Key_A, Qt::ControlModifier);
             for (const QChar letter : text) {
-                Type(window, Qt::Key_unknown, letter);
+                QTest::sendKeyEvent(QTest::Click, hands, Qt::Key_unknown, letter, Qt::NoModifier);
             }
         }
-    } else {
-        const QPoint place(details[0].toInt(), details[1].toInt());
-        const auto button = static_cast<Qt::MouseButton>(details[2].toInt());
-        if (kind == QLatin1String("hover")) {
-            QTest::mouseMove(&window, place);
-        } else if (kind == QLatin1String("double")) {
-            QTest::mouseDClick(&window, button, {}, place);
-        } else {
-            QTest::mouseClick(&window, button, {}, place);
+        if (OneIn(2, mind_)) {
+            QTest::keyClick(hands, Qt::Key_Return);
         }
     }
-}
 
-std::optional<std::string> Monkey::Complaint() {
-    if (sinceEvent_.elapsed() > LongestEvent) {
-        return "an event took " + std::to_string(sinceEvent_.elapsed()) + " ms";
+    QString Entry(const QString& field, const Route& route) {
+        if (field == QLatin1String("txtSave") || field.startsWith(QLatin1String("txtN("))) {
+            return OneIn(4, mind_) ? Any(NastyNames, mind_) : QString::fromStdString(NameEntry(mind_));
+        }
+        return QString::fromStdString(field == QLatin1String("txtTroops") ? QuantityEntry(route.Troops, mind_)
+                                      : field == QLatin1String("txtTanks") ? QuantityEntry(route.Tanks, mind_)
+                                      : field == QLatin1String("txtOil")   ? QuantityEntry(30, mind_)
+                                      : field == QLatin1String("txtC1") || OneIn(3, mind_) ? route.From
+                                                                                           : route.To);
     }
-    if (!toolkitMessage.isEmpty()) {
-        return "the toolkit says: " + toolkitMessage.toStdString();
-    }
-    if (!NothingCanBeDone()) {
-        sinceSomethingToDo_.start();
-    } else if (sinceSomethingToDo_.elapsed() > LongestNothing) {
-        return "nothing is left to do, and the game is not over";
-    }
-    return IsUnderWay() ? ComplaintAboutGame() : std::nullopt;
-}
 
-std::optional<std::string> Monkey::ComplaintAboutGame() {
-    const GameState& game = program_->game();
-    const CommandSet given = Available();
-    if (auto broken = BrokenRecords(game)) {
+    CommandSet Available() {
+        const auto labels =
+            program_.screens().board()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
+        CommandSet available;
+        for (const Command command : AllCommands) {
+            const bool enabled = labels[static_cast<qsizetype>(command)]->isEnabled();
+            available = enabled ? available.With(command) : available;
+        }
+        return available;
+    }
+
+    bool NothingCanBeDone() {
+        const QList<QWidget*> windows = WindowsOnScreen();
+        const bool boardAlone = windows == QList<QWidget*>{program_.screens().board()};
+        return windows.isEmpty() ||
+               (boardAlone && !program_.game().GameOver && Available() == CommandSet::None());
+    }
+
+    std::string Broken() {
+        if (!toolkitMessage.isEmpty()) {
+            return "the toolkit says: " + toolkitMessage.toStdString();
+        }
+        if (sinceEvent_.elapsed() > LongestEvent) {
+            return NothingCanBeDone() ? "nothing is left to do" : "an event took too long";
+        }
+        // Before the first turn has begun, players without a territory are alive.
+        const frm3* const board = program_.screens().board();
+        if (board == nullptr || board->isHidden() || board->windowTitle() == QLatin1String("Vorlund")) {
+            return "";
+        }
+        const GameState& game = program_.game();
+        std::string broken = BrokenRecords(game) + BrokenCommands(game, Available());
+        if (Available().Has(Command::Save) && done_.size() % 8 == 0) {
+            broken += BrokenSaving(game);
+        }
+        for (int t = 0; t < NumTerritories; ++t) {
+            const auto* const count = board->findChild<QLabel*>(QStringLiteral("lblCntry(%1)").arg(t));
+            const Territory& territory = game.TerritoryAt(t);
+            const QString units = QStringLiteral("%1/%2").arg(territory.Troops).arg(territory.Tanks);
+            if (count->isHidden() ? territory.Occupied : count->text() != units) {
+                broken += "the board does not show what stands in " + std::string(territory.Name);
+            }
+        }
+        for (const QWidget* window : WindowsOnScreen()) {
+            if ((game.GameOver || game.Current().IsDead) && qobject_cast<const CommandDialog*>(window)) {
+                broken += NameOf(*window).toStdString() + " is open for somebody who can do nothing";
+            }
+        }
         return broken;
     }
-    if (auto broken = BrokenCommands(game, given)) {
-        return broken;
+
+    [[noreturn]] void GiveUp(const std::string& complaint) const {
+        std::fprintf(stderr, "\n%s\nBROKEN: %s\nThe same again: VORLUND_SEED=%d VORLUND_EVENTS=%lld\n",
+                     qPrintable(done_.mid(done_.size() - 30).join(u'\n')), complaint.c_str(), seed_,
+                     done_.size());
+        std::_Exit(1);
     }
-    const bool hasEnded = game.GameOver || game.Current().IsDead;
-    for (const QWidget* window : WindowsOnScreen()) {
-        if (hasEnded && qobject_cast<const CommandDialog*>(window) != nullptr) {
-            return NameOf(*window).toStdString() + " is open for somebody who can do nothing";
-        }
-    }
-    return given.Has(Command::Save) && eventsLeft_ % EventsPerSaving == 0 ? BrokenSaving(game) : std::nullopt;
-}
 
-bool Monkey::NothingCanBeDone() const {
-    const QList<QWidget*> windows = WindowsOnScreen();
-    const bool boardAlone = windows.size() == 1 && windows.front() == program_->screens().board();
-    return windows.isEmpty() ||
-           (boardAlone && !program_->game().GameOver && Available() == CommandSet::None());
-}
+    int seed_;
+    SeededRandom mind_;
+    QTemporaryDir folder_;
+    Program program_{std::make_unique<SeededRandom>(seed_), SavedGamesFolder(folder_.path().toStdString())};
+    qsizetype eventsAllowed_ = 0;
+    QStringList done_;
+    QElapsedTimer sinceEvent_;
+    int actingAt_ = 0;  ///< the depth of event loops at which an event is being carried out
+};
 
-bool Monkey::IsUnderWay() const {
-    // Before the first turn has begun, players without a territory are alive.
-    const frm3* board = program_->screens().board();
-    return board != nullptr && board->isVisible() && board->windowTitle() != QLatin1String("Vorlund");
-}
-
-CommandSet Monkey::Available() const {
-    constexpr std::array names{"lblBuy",     "lblSell",   "lblTransport", "lblAttack",
-                               "lblUpgrade", "lblStatus", "lblEndTurn",   "lblSave"};
-    CommandSet available;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        const auto* label = program_->screens().board()->findChild<QWidget*>(QLatin1String(names[i]));
-        if (label->isEnabled()) {
-            available = available.With(AllCommands[i]);
-        }
-    }
-    return available;
-}
-
+}  // namespace
 }  // namespace vorlund
+
+/// Does VORLUND_EVENTS random events (200,000 if unset) from VORLUND_SEED (1) to the program's windows, up to
+/// the first that breaks something.
+int main(int argc, char** argv) {
+    setenv("SDL_AUDIODRIVER", "dummy", 0);  // the sounds are played, but into the void
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    qInstallMessageHandler(vorlund::TakeMessage);
+    vorlund::HeldKeys heldKeys;
+    qApp->installEventFilter(&heldKeys);
+    int seed = qEnvironmentVariable("VORLUND_SEED", "1").toInt();
+    for (int left = qEnvironmentVariable("VORLUND_EVENTS", "200000").toInt(); left > 0; ++seed) {
+        left -= vorlund::Monkey(seed).Play(left);
+    }
+}
