@@ -58,7 +58,7 @@ QList<Widget*> Shown(const QWidget& window) {
 class Monkey : public QObject {
 public:
     explicit Monkey(int seed) : seed_(seed), mind_(static_cast<std::uint32_t>(seed)) {
-        for (const char* const file : {"a.vrs", "b.vrs", "c.vrs"}) {
+        for (const char* const file : {"a.vrs", "b.vrs"}) {
             program_.saves().Save(file, RandomPosition(mind_));
         }
         QFile(folder_.filePath(QStringLiteral("empty.vrs"))).open(QIODevice::WriteOnly);
@@ -113,7 +113,7 @@ private:
         QWidget* const popup = QApplication::activePopupWidget();
         QWidget* const foremost = popup != nullptr ? popup : QApplication::activeModalWidget();
         const bool strays = foremost == nullptr || OneIn(10, mind_);
-        const QWidget& window = strays ? *Any(WindowsOnScreen(), mind_) : *foremost;
+        QWidget& window = strays ? *Any(WindowsOnScreen(), mind_) : *foremost;
         const auto buttons = Shown<QAbstractButton>(window);
         const auto fields = Shown<QLineEdit>(window);
         const bool mayEndGame = window.parentWidget() == nullptr && !program_.game().GameOver;
@@ -131,7 +131,8 @@ private:
         } else if (kind < 60 && !fields.isEmpty()) {
             Fill(window, fields);
         } else {
-            Click(window, kind < 66 || buttons.isEmpty() ? window : *Any(buttons, mind_));
+            const bool anywhere = kind < 70 || buttons.isEmpty();
+            Click(window, anywhere ? *Any(Shown<QWidget>(window) << &window, mind_) : *Any(buttons, mind_));
         }
     }
 
