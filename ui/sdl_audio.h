@@ -22,24 +22,24 @@ class SdlAudio {
     };
 
 public:
-    decltype(&SDL_BuildAudioCVT) BuildAudioCVT = Found{"SDL_BuildAudioCVT"};
-    decltype(&SDL_ClearQueuedAudio) ClearQueuedAudio = Found{"SDL_ClearQueuedAudio"};
-    decltype(&SDL_CloseAudioDevice) CloseAudioDevice = Found{"SDL_CloseAudioDevice"};
-    decltype(&SDL_ConvertAudio) ConvertAudio = Found{"SDL_ConvertAudio"};
-    decltype(&SDL_FreeWAV) FreeWAV = Found{"SDL_FreeWAV"};
-    decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus = Found{"SDL_GetAudioDeviceStatus"};
-    decltype(&SDL_GetQueuedAudioSize) GetQueuedAudioSize = Found{"SDL_GetQueuedAudioSize"};
-    decltype(&SDL_InitSubSystem) InitSubSystem = Found{"SDL_InitSubSystem"};
-    decltype(&SDL_LoadWAV_RW) LoadWAV_RW = Found{"SDL_LoadWAV_RW"};
-    decltype(&SDL_LogSetOutputFunction) LogSetOutputFunction = Found{"SDL_LogSetOutputFunction"};
-    decltype(&SDL_OpenAudioDevice) OpenAudioDevice = Found{"SDL_OpenAudioDevice"};
-    decltype(&SDL_PauseAudioDevice) PauseAudioDevice = Found{"SDL_PauseAudioDevice"};
-    decltype(&SDL_QueueAudio) QueueAudio = Found{"SDL_QueueAudio"};
-    decltype(&SDL_QuitSubSystem) QuitSubSystem = Found{"SDL_QuitSubSystem"};
-    decltype(&SDL_RWFromConstMem) RWFromConstMem = Found{"SDL_RWFromConstMem"};
-    decltype(&SDL_SetHint) SetHint = Found{"SDL_SetHint"};
-    decltype(&SDL_SetMainReady) SetMainReady = Found{"SDL_SetMainReady"};
-    decltype(&SDL_TLSCleanup) TLSCleanup = Found{"SDL_TLSCleanup"};
+    decltype(SDL_BuildAudioCVT)* BuildAudioCVT = Found{"SDL_BuildAudioCVT"};
+    decltype(SDL_ClearQueuedAudio)* ClearQueuedAudio = Found{"SDL_ClearQueuedAudio"};
+    decltype(SDL_CloseAudioDevice)* CloseAudioDevice = Found{"SDL_CloseAudioDevice"};
+    decltype(SDL_ConvertAudio)* ConvertAudio = Found{"SDL_ConvertAudio"};
+    decltype(SDL_FreeWAV)* FreeWAV = Found{"SDL_FreeWAV"};
+    decltype(SDL_GetAudioDeviceStatus)* GetAudioDeviceStatus = Found{"SDL_GetAudioDeviceStatus"};
+    decltype(SDL_GetQueuedAudioSize)* GetQueuedAudioSize = Found{"SDL_GetQueuedAudioSize"};
+    decltype(SDL_InitSubSystem)* InitSubSystem = Found{"SDL_InitSubSystem"};
+    decltype(SDL_LoadWAV_RW)* LoadWAV_RW = Found{"SDL_LoadWAV_RW"};
+    decltype(SDL_LogSetOutputFunction)* LogSetOutputFunction = Found{"SDL_LogSetOutputFunction"};
+    decltype(SDL_OpenAudioDevice)* OpenAudioDevice = Found{"SDL_OpenAudioDevice"};
+    decltype(SDL_PauseAudioDevice)* PauseAudioDevice = Found{"SDL_PauseAudioDevice"};
+    decltype(SDL_QueueAudio)* QueueAudio = Found{"SDL_QueueAudio"};
+    decltype(SDL_QuitSubSystem)* QuitSubSystem = Found{"SDL_QuitSubSystem"};
+    decltype(SDL_RWFromConstMem)* RWFromConstMem = Found{"SDL_RWFromConstMem"};
+    decltype(SDL_SetHint)* SetHint = Found{"SDL_SetHint"};
+    decltype(SDL_SetMainReady)* SetMainReady = Found{"SDL_SetMainReady"};
+    decltype(SDL_TLSCleanup)* TLSCleanup = Found{"SDL_TLSCleanup"};
 
     /// False where SDL is not installed; nothing may be called then. A library of its second line has all of
     /// them: this one is the newest.
