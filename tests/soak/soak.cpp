@@ -55,9 +55,8 @@ private:
 
     void Act() {
         if (Game.GameOver || (Seen.ReportVisible && OneIn(4, mind_))) {
-            if (Turn.ReportClosed()) {
-                may_ = May::PassTheTurn;
-            } else {
+            may_ = Turn.ReportClosed() ? May::PassTheTurn : May::ChangeNothing;
+            if (may_ == May::ChangeNothing) {
                 Seen.CloseReport();
             }
         } else if (dialog_ && !OneIn(5, mind_)) {
