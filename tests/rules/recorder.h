@@ -18,41 +18,44 @@ public:
     bool ReportVisible = false;
     bool GameOverShown = false;
     std::vector<std::string> Announcements;
-    std::string Calls;  ///< the names of all calls in their order, a blank before each
+    std::string Calls;  ///< all calls in their order, each with what it shows in few words
 
-    void RefreshMap() override { Calls += " RefreshMap"; }
+    void RefreshMap() override { Calls += "RefreshMap; "; }
     void SetCommands(CommandSet available) override {
-        Calls += " SetCommands";
         Commands = available;
+        Calls += available == CommandSet::All()                            ? "all commands; "
+                 : available == CommandSet::All().Without(Command::Attack) ? "all but Attack; "
+                 : available == CommandSet::Only(Command::EndTurn)         ? "EndTurn; "
+                                                                           : "no commands; ";
     }
     void SetBoardTitle(const std::string& title) override {
-        Calls += " SetBoardTitle";
         BoardTitle = title;
+        Calls += "'" + title + "'; ";
     }
     void ShowGameOver() override {
-        Calls += " ShowGameOver";
         GameOverShown = true;
+        Calls += "ShowGameOver; ";
     }
-    void CloseDialogs() override { Calls += " CloseDialogs"; }
+    void CloseDialogs() override { Calls += "CloseDialogs; "; }
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override {
-        Calls += " ShowReport";
+        ReportVisible = true;
         Shown = report;
         Picture = picturePlayer;
-        ReportVisible = true;
+        Calls += "ShowReport " + (Picture ? std::to_string(*Picture + 1) : "") + " " + report.Headline + "; ";
     }
     void HideReport() override {
-        Calls += " HideReport";
         ReportVisible = false;
+        Calls += "HideReport; ";
     }
     void CloseReport() override {
-        Calls += " CloseReport";
+        ReportVisible = false;
         Shown = {};
         Picture.reset();
-        ReportVisible = false;
+        Calls += "CloseReport; ";
     }
     void Announce(const std::string& text) override {
-        Calls += " Announce";
         Announcements.push_back(text);
+        Calls += "Announce " + text + "; ";
     }
 };
 

@@ -2,24 +2,27 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
+#include <sstream>
+#include <string>
 #include <vector>
 
 #include "state/random.h"
 
 namespace vorlund {
 
-/// The u in the middle of those that make a draw over `n` give `result`.
-inline float For(int result, int n) {
-    return (static_cast<float>(result) + 0.5F) / static_cast<float>(n);
-}
-
-/// Chance from a written-out list. The test fails when a value is missing or left over.
+/// Chance from a script: "2/5 0/12" makes a draw over 5 give 2, then one over 12 give 0. The test fails when
+/// a roll is missing or left over.
 class ScriptedRandom final : public Random {
 public:
-    explicit ScriptedRandom(std::vector<float> values) : values_(std::move(values)) {}
+    explicit ScriptedRandom(const std::string& script) : script_(script) {}
+    explicit ScriptedRandom(const std::vector<float>& values) {
+        for (const float value : values) {
+            script_ << value - 0.5F << "/1 ";
+        }
+    }
     ~ScriptedRandom() override {
-        EXPECT_EQ(next_, values_.size()) << "values asked for, and values in the script";
+        std::string left;
+        EXPECT_FALSE(script_ >> left) << "not asked for: " << left;
     }
     ScriptedRandom(const ScriptedRandom&) = delete;
     ScriptedRandom& operator=(const ScriptedRandom&) = delete;
@@ -27,14 +30,16 @@ public:
     int Reseedings = 0;
 
     float Uniform() override {
-        const std::size_t index = next_++;
-        return index < values_.size() ? values_[index] : 0.0F;
+        float result = 0;
+        float faces = 1;
+        char slash = 0;
+        EXPECT_TRUE(script_ >> result >> slash >> faces) << "a roll is missing";
+        return (result + 0.5F) / faces;
     }
     void Reseed() override { ++Reseedings; }
 
 private:
-    std::vector<float> values_;
-    std::size_t next_ = 0;
+    std::stringstream script_;
 };
 
 }  // namespace vorlund

@@ -1,31 +1,17 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
+#include <algorithm>
+#include <map>
+#include <sstream>
 #include <string>
+#include <utility>
+#include <variant>
 
-#include "state/game_state.h"
 #include "state/int16.h"
 #include "state/ownership.h"
 #include "state/world.h"
 
 namespace vorlund {
-
-/// A game of `players` humans called Anna, Ben, Cleo, Dora and Emil in which player 0 has the turn, everybody
-/// is past the first turn, and nobody owns anything yet.
-inline GameState NewGame(int players) {
-    static constexpr const char* Names[] = {"Anna", "Ben", "Cleo", "Dora", "Emil"};
-    GameState game;
-    InitWorld(game);
-    game.NumPlayers = static_cast<std::int16_t>(players);
-    for (int p = 0; p < players; ++p) {
-        game.PlayerAt(p).Name = Names[p];
-        game.PlayerAt(p).FirstTurn = false;
-        game.PlayerAt(p).AttacksLeft = 2;
-        game.PlayerAt(p).MovesLeft = 2;
-    }
-    return game;
-}
 
 /// Gives territory index `t` with these units to `player`, whose totals grow by them.
 inline void Give(GameState& game, int t, int player, int troops, int tanks = 0) {
@@ -47,45 +33,86 @@ inline void Bury(GameState& game, int player) {
     ++game.DeadPlayers;
 }
 
-/// What differs between two states of a game: "7 Ben 10/3 FD; Ben Troops 10 Tanks 3" is a territory by its
+inline const std::map<std::string, std::variant<std::int16_t Player::*, bool Player::*>> PlayerFields{
+    {"Money", &Player::Money},           {"Oil", &Player::Oil},
+    {"Troops", &Player::Troops},         {"Tanks", &Player::Tanks},
+    {"Factories", &Player::Factories},   {"EconomyLevel", &Player::EconomyLevel},
+    {"DebtTurns", &Player::DebtTurns},   {"WarfareLevel", &Player::WarfareLevel},
+    {"MovesLeft", &Player::MovesLeft},   {"NuclearLevel", &Player::NuclearLevel},
+    {"HasNuke", &Player::HasNuke},       {"AttacksLeft", &Player::AttacksLeft},
+    {"FirstTurn", &Player::FirstTurn},   {"IsDead", &Player::IsDead},
+    {"IsComputer", &Player::IsComputer},
+};
+
+/// What differs between two states of a game: "7 Ben 10/3FD; Ben Tanks 3 Troops 10" is a territory by its
 /// number with owner, troops, tanks, factory and defense, and a player's fields with what they have become.
 inline std::string Changes(const GameState& before, const GameState& after) {
-    std::string changes;
+    std::ostringstream changes;
+    const char* between = "";
     for (int t = 0; t < NumTerritories; ++t) {
         const Territory& now = after.TerritoryAt(t);
         if (now != before.TerritoryAt(t)) {
-            changes += "; " + std::to_string(t + 1) + " " +
-                       (now.Owner == NoOwner ? "nobody" : after.PlayerAt(now.Owner).Name) + " " +
-                       std::to_string(now.Troops) + "/" + std::to_string(now.Tanks) +
-                       (now.HasFactory || now.HasDefense ? " " : "") + (now.HasFactory ? "F" : "") +
-                       (now.HasDefense ? "D" : "");
+            changes << std::exchange(between, "; ") << t + 1 << " "
+                    << (now.Occupied ? after.PlayerAt(now.Owner).Name : "nobody") << " " << now.Troops << "/"
+                    << now.Tanks << (now.HasFactory ? "F" : "") << (now.HasDefense ? "D" : "");
         }
     }
     for (int p = 0; p < after.NumPlayers; ++p) {
-        const Player& was = before.PlayerAt(p);
-        const Player& is = after.PlayerAt(p);
-        std::string fields;
-        const auto compare = [&](const char* name, auto field) {
-            fields +=
-                was.*field == is.*field ? "" : std::string(" ") + name + " " + std::to_string(is.*field);
-        };
-        compare("Money", &Player::Money);
-        compare("Oil", &Player::Oil);
-        compare("Troops", &Player::Troops);
-        compare("Tanks", &Player::Tanks);
-        compare("Factories", &Player::Factories);
-        compare("EconomyLevel", &Player::EconomyLevel);
-        compare("WarfareLevel", &Player::WarfareLevel);
-        compare("NuclearLevel", &Player::NuclearLevel);
-        compare("DebtTurns", &Player::DebtTurns);
-        compare("MovesLeft", &Player::MovesLeft);
-        compare("AttacksLeft", &Player::AttacksLeft);
-        compare("HasNuke", &Player::HasNuke);
-        compare("FirstTurn", &Player::FirstTurn);
-        compare("IsDead", &Player::IsDead);
-        changes += fields.empty() ? "" : "; " + is.Name + fields;
+        std::string who = after.PlayerAt(p).Name;
+        for (const auto& [name, member] : PlayerFields) {
+            const auto tell = [&, &field = name](auto value) {
+                if (after.PlayerAt(p).*value != before.PlayerAt(p).*value) {
+                    changes << (who.empty() ? "" : std::exchange(between, "; ")) << std::exchange(who, "")
+                            << " " << field << " " << after.PlayerAt(p).*value;
+                }
+            };
+            std::visit(tell, member);
+        }
     }
-    return changes.empty() ? changes : changes.substr(2);
+    return changes.str();
+}
+
+/// Adds to `game` what `world` says in the words of Changes; a territory that has an owner stays as it is.
+inline void Put(GameState& game, std::string world) {
+    std::replace(world.begin(), world.end(), ';', ' ');
+    std::istringstream words(world);
+    int t = 0;
+    int p = 0;
+    const auto read = [&](auto field) { words >> game.PlayerAt(p).*field; };
+    for (std::string word; words >> word;) {
+        const auto slash = word.find('/');
+        if (PlayerFields.contains(word)) {
+            std::visit(read, PlayerFields.at(word));
+        } else if (word[0] > '9') {
+            p = word[0] - 'A';  // the names are Anna, Ben and so on
+        } else if (slash == std::string::npos) {
+            t = std::stoi(word) - 1;
+        } else if (!game.TerritoryAt(t).Occupied) {
+            Give(game, t, p, std::stoi(word), std::stoi(word.substr(slash + 1)));
+            game.TerritoryAt(t).HasFactory = word.find('F') != std::string::npos;
+            game.TerritoryAt(t).HasDefense = word.ends_with('D');
+            Add(game.PlayerAt(p).Factories, game.TerritoryAt(t).HasFactory ? 1 : 0);
+        }
+    }
+    const auto isDead = [](const Player& player) { return player.IsDead; };
+    game.DeadPlayers =
+        static_cast<std::int16_t>(std::count_if(game.Players.begin(), game.Players.end(), isDead));
+}
+
+/// A game of `players` humans called Anna, Ben, Cleo, Dora and Emil in which player 0 has the turn, everybody
+/// is past the first turn, and nobody owns anything but what `world` says.
+inline GameState NewGame(int players, const std::string& world = "") {
+    static constexpr const char* Names[] = {"Anna", "Ben", "Cleo", "Dora", "Emil"};
+    GameState game;
+    InitWorld(game);
+    game.NumPlayers = static_cast<std::int16_t>(players);
+    for (int p = 0; p < players; ++p) {
+        game.PlayerAt(p).Name = Names[p];
+        game.PlayerAt(p).FirstTurn = false;
+        game.PlayerAt(p).AttacksLeft = game.PlayerAt(p).MovesLeft = 2;
+    }
+    Put(game, world);
+    return game;
 }
 
 }  // namespace vorlund

@@ -1,265 +1,226 @@
-#include <gtest/gtest.h>
-
-#include <utility>
-#include <vector>
-
-#include "computer/computer_turn.h"
-#include "state/consistent.h"
-#include "tests/rules/recorder.h"
-#include "tests/rules/scripted_random.h"
-#include "tests/rules/small_worlds.h"
-#include "turn/turn_cycle.h"
-#include "turn/upkeep.h"
-#include "turn/victory.h"
+#include "tests/rules/play.h"
 
 namespace vorlund {
 namespace {
 
-const float NoResearch = For(0, 13);
-using Setting = void (*)(GameState&);
-
-/// A game with its screens and its chance, played from a script.
-struct Play {
-    Play(GameState start, std::vector<float> script) : Game(std::move(start)), Chance(std::move(script)) {}
-
-    GameState Game;
-    ScriptedRandom Chance;
-    Recorder Seen;
-    TurnCycle Turn{Game, Chance, Seen, [this] { ComputerTurn(Game, Chance, Seen); }};
-};
-
-/// Anna holds number 2, which brings in 39 dollars, Ben number 42; both stand empty.
-GameState OneTerritoryEach() {
-    GameState game = NewGame(2);
-    Give(game, 1, 0, 0);
-    Give(game, 41, 1, 0);
-    return game;
-}
-
-std::string Figures(int upkeep, int barrels, int income) {
-    return "Upkeep for Troops and Factories: $" + std::to_string(upkeep) +
-           "\rUpkeep for Tanks: " + std::to_string(barrels) +
-           " barrels\r\rMoney collected from territories: $" + std::to_string(income) +
-           "\rRemaining money after expenses: $" + std::to_string(income - upkeep) + "\r\r";
-}
-
 TEST(Upkeep, BooksAndReports) {
     struct Row {
         const char* what;
-        std::int16_t money;
-        std::int16_t debtTurns;
+        std::string world;  ///< beside number 2, which stands empty and brings in 39 dollars
+        std::string roll;
         std::string changes;
-        std::string body;
-        Setting setup = [](GameState&) {};
-        float research = NoResearch;
+        std::string figures;  ///< upkeep, barrels, income, what remains
+        std::string news = "";
     };
     const std::string found = "Your nuclear development team has researched a nuclear bomb.\r\r";
     const std::string debt = "Your economy is in debt- economic unrest spreads through your land.\r";
     const std::string collapse = "Your territories collapse due to prolonged periods of lack of funds.";
     const std::vector<Row> rows{
-        {"four territories, an oil field and Economy level 2; a share of a dollar is cut off", 100, 0,
-         "Anna Money 265 Oil 12", Figures(22, 3, 187),
-         [](GameState& g) {
-             Give(g, 0, 0, 10, 3), Give(g, 2, 0, 0), Give(g, 3, 0, 0);
-             GiveFactory(g, 0), GiveFactory(g, 1);
-             g.Players[0].EconomyLevel = 2;
-         }},
-        {"missing oil is settled in money, the debt is counted", -34, 0, "Anna Money -2 DebtTurns 1",
-         Figures(0, 7, 39) + debt, [](GameState& g) { Give(g, 1, 0, 0, 7); }},
-        {"two turns in debt do not yet matter when money is there", -39, 2, "Anna Money 0",
-         Figures(0, 0, 39)},
-        {"the third turn in debt takes everything but the totals", -31, 2,
-         "2 nobody 0/0; Anna Money -1 DebtTurns 3 IsDead 1", Figures(9, 0, 39) + debt + collapse,
-         [](GameState& g) {
-             Give(g, 1, 0, 4, 0), GiveFactory(g, 1);
-             g.Territories[1].HasDefense = true;
-         }},
-        {"sums stop at the upper end of the fields", 32760, 0, "Anna Money 32767 Oil 32767",
-         Figures(0, 0, 78), [](GameState& g) { Give(g, 0, 0, 0), g.Players[0].Oil = 32760; }},
-        {"and at the lower end", -32000, 0, "Anna Money -32768 DebtTurns 1", Figures(32767, 0, 39) + debt,
-         [](GameState& g) { g.Players[0].Troops = 32767; }},
-        {"research finds a bomb", 0, 0, "Anna Money 39 HasNuke 1", Figures(0, 0, 39) + found,
-         [](GameState&) {}, For(2, 13)},
-        {"more often at Nuclear level 3", 0, 0, "Anna Money 39 HasNuke 1", Figures(0, 0, 39) + found,
-         [](GameState& g) { g.Players[0].NuclearLevel = 3; }, For(2, 3)},
-        {"but never a second one", 0, 0, "Anna Money 39", Figures(0, 0, 39),
-         [](GameState& g) { g.Players[0].HasNuke = true; }, For(2, 13)},
+        {"four territories, an oil field and Economy level 2; a share of a dollar is cut off",
+         "1 Anna 10/3F 2 Anna 0/0F 3 Anna 0/0 4 Anna 0/0 Anna Money 100 EconomyLevel 2", "0/13",
+         "Anna Money 265 Oil 12", "22 3 187 165"},
+        {"missing oil is settled in money, the debt is counted", "2 Anna 0/7 Anna Money -34", "0/13",
+         "Anna DebtTurns 1 Money -2", "0 7 39 39", debt},
+        {"two turns in debt do not yet matter when money is there", "Anna Money -39 DebtTurns 2", "0/13",
+         "Anna Money 0", "0 0 39 39"},
+        {"the third turn in debt takes everything but the totals", "2 Anna 4/1FD Anna Money -30 DebtTurns 2",
+         "0/13", "2 nobody 0/0; Anna DebtTurns 3 IsDead 1 Money -1", "9 1 39 30", debt + collapse},
+        {"sums stop at the upper end of the fields", "1 Anna 0/0 Anna Money 32760 Oil 32760", "0/13",
+         "Anna Money 32767 Oil 32767", "0 0 78 78"},
+        {"and at the lower end", "Anna Money -32000 Troops 32767", "0/13", "Anna DebtTurns 1 Money -32768",
+         "32767 0 39 -32728", debt},
+        {"research finds a bomb", "", "2/13", "Anna HasNuke 1 Money 39", "0 0 39 39", found},
+        {"more often at Nuclear level 3", "Anna NuclearLevel 3", "2/3", "Anna HasNuke 1 Money 39",
+         "0 0 39 39", found},
+        {"but never a second one", "Anna HasNuke 1", "2/13", "Anna Money 39", "0 0 39 39"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
-        GameState game = OneTerritoryEach();
-        game.Players[0].Money = row.money;
-        game.Players[0].DebtTurns = row.debtTurns;
-        row.setup(game);
-        const GameState before = game;
-        ScriptedRandom random({row.research});
-        EXPECT_EQ(RunUpkeep(game, random, 0),
-                  (Report{"Vorlund - Upkeep", "Upkeep status for Player 1, Anna.", row.body}));
-        EXPECT_EQ(Changes(before, game), row.changes);
-        EXPECT_TRUE(Consistent(game));
-    }
-}
-
-TEST(AvailableCommands, AreOneOfTheExactSets) {
-    struct Row {
-        const char* what;
-        Setting setup;
-        CommandSet expected;
-        std::string whyNoAttack;
-    };
-    const std::vector<Row> rows{
-        {"a later turn", [](GameState&) {}, CommandSet::All(), ""},
-        {"the first turn", [](GameState& g) { g.Players[0].FirstTurn = true; },
-         CommandSet::All().Without(Command::Attack), "Nobody attacks in their first turn."},
-        {"dead", [](GameState& g) { Bury(g, 0); }, CommandSet::Only(Command::EndTurn),
-         "You are dead and can only end your turn."},
-        {"nobody lives", [](GameState& g) { Bury(g, 0), Bury(g, 1); }, CommandSet::None(),
-         "The game is over."},
-        {"the game is over", [](GameState& g) { g.GameOver = true; }, CommandSet::None(),
-         "The game is over."},
-    };
-    for (const Row& row : rows) {
-        GameState game = OneTerritoryEach();
-        row.setup(game);
-        EXPECT_EQ(AvailableCommands(game), row.expected) << row.what;
-        EXPECT_EQ(WhyUnavailable(game, Command::Attack), row.whyNoAttack) << row.what;
-    }
-}
-
-TEST(EndTurn, PassesToTheNextLivingPlayer) {
-    struct Row {
-        const char* what;
-        int players;
-        int from;
-        int dead;
-        int to;
-    };
-    for (const Row& row :
-         {Row{"past a dead player", 3, 0, 1, 2}, Row{"round the end", 3, 2, 1, 0},
-          Row{"past the dead at the end", 4, 2, 3, 0}, Row{"from a dead player", 5, 3, 3, 4}}) {
-        SCOPED_TRACE(row.what);
-        GameState game = NewGame(row.players);
-        Bury(game, row.dead);
-        for (int p = 0; p < row.players; ++p) {
-            if (p != row.dead) {
-                Give(game, 5 * p, p, 0);
-            }
+        std::string report =
+            "Vorlund - Upkeep|Upkeep status for Player 1, Anna.|Upkeep for Troops and Factories: $#\rUpkeep "
+            "for Tanks: # barrels\r\r"
+            "Money collected from territories: $#\rRemaining money after expenses: $#\r\r";
+        std::istringstream figures(row.figures);
+        for (std::string figure; figures >> figure;) {
+            report.replace(report.find('#'), 1, figure);
         }
-        game.CurrentPlayer = static_cast<std::int16_t>(row.from);
-        Play play(game, {NoResearch});
-        play.Turn.EndTurn();
-        EXPECT_EQ(play.Game.CurrentPlayer, row.to);
-        EXPECT_EQ(play.Seen.Picture, row.to);
+        Play(2, row.world + " 2 Anna 0/0 42 Ben 0/0", row.roll)
+            .Then("upkeep", report + row.news, row.changes);
+    }
+}
+
+const std::string Ended = "CloseReport; CloseDialogs; no commands; ";
+
+std::string TurnOf(const std::string& name, const std::string& number, const std::string& marker) {
+    return "'Vorlund - " + name + "'s turn'; RefreshMap; ShowReport " + marker +
+           " Upkeep status for Player " + number + ", " + name + ".; ";
+}
+
+std::string WonBy(const std::string& name, const std::string& number) {
+    return "ShowGameOver; 'Vorlund - " + name + " wins'; Announce Player " + number + ", " + name +
+           ", you win the game!; ";
+}
+
+TEST(Turn, GivesTheNextHumanEverythingButTheCommands) {
+    Play play(2, "1 Anna 0/0 11 Ben 0/0 Anna MovesLeft 0 FirstTurn 1 Ben AttacksLeft 1 FirstTurn 1",
+              "0/13 0/13");
+    play.Then("open", TurnOf("Anna", "1", ""), "Anna Money 39 MovesLeft 2 Oil 15");
+    play.Then("close", "all but Attack; ");
+    play.Then("end", Ended + TurnOf("Ben", "2", "2"), "Anna FirstTurn 0; Ben AttacksLeft 2 Money 39");
+    EXPECT_EQ(play.Chance.Reseedings, 2);
+}
+
+TEST(Turn, PassesByTheDeadAndRoundTheEnd) {
+    Play play(5, "1 Anna 0/0 21 Cleo 0/0 Ben IsDead 1 Dora IsDead 1 Emil IsDead 1", "0/13 0/13");
+    play.Then("end", Ended + TurnOf("Cleo", "3", "3"), "Cleo Money 39");
+    play.Then("close", "all commands; ");
+    play.Then("end", Ended + TurnOf("Anna", "1", "1"), "Anna Money 39 Oil 15");
+}
+
+TEST(Turn, AnnouncesTheLastOneAliveWhoeverItIs) {
+    for (const std::string computer : {"0", "1"}) {
+        Play play(3, "11 Ben 1/0 Anna IsDead 1 Cleo IsDead 1 Ben IsComputer " + computer, "");
+        play.Then("end", Ended + WonBy("Ben", "2"));
+        play.Then("close", "");
+    }
+}
+
+TEST(Turn, ComesBackWhenNobodyLives) {
+    Play play(2, "Anna IsDead 1 Ben IsDead 1", "0/13");
+    NobodyWins(play.Game, play.Seen);
+    EXPECT_EQ(play.Seen.Calls,
+              "RefreshMap; no commands; Announce All players are dead, no one wins...; CloseDialogs; ");
+    EXPECT_TRUE(play.Game.GameOver);
+    play.Then("end", Ended + TurnOf("Anna", "1", "1"));
+}
+
+TEST(Turn, OfTheLastButOneWhoCollapsesStillEnds) {
+    Play play(2, "1 Anna 0/0 11 Ben 0/0 Ben DebtTurns 2 Money -100", "0/13");
+    play.Then("end", Ended + TurnOf("Ben", "2", "2"), "11 nobody 0/0; Ben DebtTurns 3 IsDead 1 Money -61");
+    play.Then("close", "EndTurn; ");
+    play.Then("end", Ended + WonBy("Anna", "1"));
+    play.Game.GameOver = false;  // as if Anna had won in her own turn: the commands stay as they are
+    play.Then("close", "");
+}
+
+TEST(Turn, GoesFromComputerToComputerAndOnToTheNextHuman) {
+    Play play(5,
+              "1 Anna 1/0 11 Ben 1/0 31 Dora 1/0 41 Emil 1/0 Cleo IsDead 1 Ben IsComputer 1 Dora IsComputer "
+              "1 AttacksLeft 0",
+              "0/13");
+    play.Then("end", Ended + "'Vorlund - Ben's turn'; ShowReport 2 Ben plays; ");
+    play.Then("close", "HideReport; ShowReport 4 Dora plays; ");  // who gets no attacks after a computer
+    play.Then("close", "CloseDialogs; no commands; " + TurnOf("Emil", "5", "5"), "Emil Money 37");
+    EXPECT_FALSE(play.Game.ComputerTurnEnded);
+    play.Then("close", "all commands; ");
+}
+
+TEST(Turn, TellsWhyACommandIsMissing) {
+    GameState game = NewGame(2, "1 Anna 0/0 Ben IsDead 1 Anna FirstTurn 1");
+    EXPECT_EQ(WhyUnavailable(game, Command::Buy), "");
+    EXPECT_EQ(WhyUnavailable(game, Command::Attack), "Nobody attacks in their first turn.");
+    Put(game, "Anna IsDead 1 Ben IsDead 0");
+    EXPECT_EQ(WhyUnavailable(game, Command::Buy), "You are dead and can only end your turn.");
+    Put(game, "Ben IsDead 1");
+    EXPECT_EQ(WhyUnavailable(game, Command::EndTurn), "The game is over.");
+}
+
+struct ComputerRow {
+    const char* what;
+    int players;
+    std::string world;
+    std::string rolls;
+    std::string changes;
+    std::string told = "";  ///< where it matters
+};
+
+// The first rolls of a turn: no bomb, no luck with a second claim, both scans forward.
+const std::string Plain = "0/5 2/3 2/5 4/10 4/10 ";
+const std::string FirstTurn = "0/5 4/10 4/10 ";
+
+// Ben plays. Japan, 35, borders on 34 alone, and so do South Africa, 27, on 26, and 26 on 25 and 27.
+const std::vector<ComputerRow> ComputerTurns{
+    {"a whole turn with everything", 3,
+     "6 Ben 10/2; 35 Ben 4/0; 7 Anna 21/5D; 34 Anna 2/0; 9 Cleo 1/0F; Anna WarfareLevel 3",
+     "2/5 1/3 1/5 5/10 4/10 "    // a bomb, a second claim, from the last territory and the first slot
+     "2/6 0/6 11/76 "            // claims 2 with a defense, then 1 without; tanks for the front
+     "1/2 0/3 2/3 1/5 "          // 1 borders 2: a troop and a tank, then 29: a troop
+     "0/2 1/3 2/3 2/3 3/4 1/3 "  // 2 borders 1 and 3: a troop each, then 6: nothing, it has 4
+     "2/10 0/7 "                 // 6 borders 2: a troop and a tank
+     "6/12 5/12 "                // Mexico falls for one troop
+     "6/15 7/15 14/15 5/15 8/15 9/15 10/15 11/15 12/15",  // Manchuria holds
+     // What was created does not count in Ben's totals, what fell does.
+     "1 Ben 4/1; 2 Ben 5/1D; 6 Ben 2/0F; 7 Anna 11/4D; 9 Ben 12/5; 34 Anna 1/0; 35 Ben 2/0; "
+     "Anna Tanks 4 Troops 12; Ben Factories 1 Tanks 1 Troops 8; Cleo Factories 0 IsDead 1 Troops 0",
+     "Moved forces into Vancouver Territory.\rMoved forces into Alaskan Territory.\r"
+     "Player 1, Anna's, Midwest USA was nuked and lost 10 troops and 1 tanks.\r"
+     "\rAttack on Mexico, Cleo, was successful.\r"
+     "Ben lost 1/0 troops/tanks, and defender lost 1/0 troops/tanks.\rPlayer 3 is now dead.\r"
+     "\rAttack on Manchurian Territory, Anna, was held off.\r"
+     "Ben lost 5/1 troops/tanks, and defender lost 1/0 troops/tanks.\r"},
+    {"a victory ends it", 2, "35 Ben 20/0F; 34 Anna 1/0", Plain + "12/79 0/12",
+     "34 Ben 21/0; 35 Ben 2/0F; Anna IsDead 1 Troops 0",
+     "\rAttack on Manchurian Territory, Anna, was successful.\r"
+     "Ben lost 0/0 troops/tanks, and defender lost 1/0 troops/tanks.\rPlayer 1 is now dead.\r"},
+    {"two players and luck are a second claim", 2, "27 Ben 1/0F; 1 Anna 1/0",
+     "0/5 1/3 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7", "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F"},
+    {"three without luck claim one", 3, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0",
+     "0/5 1/3 2/5 5/10 4/10 1/6 50/78 3/7 4/7", "26 Ben 4/0; 27 Ben 3/1F"},
+    {"four have no such luck", 4, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0",
+     "0/5 1/3 1/5 5/10 4/10 1/6 50/78 4/7 4/7", "26 Ben 4/1; 27 Ben 3/1F"},
+    {"in their first turn everybody claims two", 4,
+     "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0; Ben FirstTurn 1",
+     "0/5 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7", "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F; Ben FirstTurn 0"},
+    {"the free factory comes where a tank counts three; nobody attacks in the first turn", 2,
+     "27 Ben 2/1; 35 Ben 4/0; 26 Anna 0/0; 34 Anna 0/0; Ben FirstTurn 1", FirstTurn + "12/78",
+     "27 Ben 3/1F; 35 Ben 5/0; Ben Factories 1 FirstTurn 0"},
+    {"and to the last among equals, where there is nothing at all", 2,
+     "27 Ben 0/0; 35 Ben 0/0; 26 Anna 1/0; 34 Anna 1/0; Ben FirstTurn 1", FirstTurn + "12/78",
+     "27 Ben 1/0; 35 Ben 1/0F; Ben Factories 1 FirstTurn 0"},
+    {"a scan forward, last slots first", 2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0",
+     "0/5 1/3 4/10 5/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7", "4 Ben 3/0F; 5 Ben 4/0; 8 Ben 4/0D; 35 Ben 3/0"},
+    {"backward and on from the land just claimed", 2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0",
+     "0/5 1/3 5/10 4/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7", "4 Ben 3/0F; 29 Ben 4/0D; 34 Ben 4/0; 35 Ben 3/0"},
+    {"three troops never attack", 2, "35 Ben 2/90F; 34 Anna 0/0", Plain + "12/79", "35 Ben 3/90F"},
+    {"5 against 1 is not enough", 2, "35 Ben 4/0F; 34 Anna 1/0; Ben HasNuke 1", Plain + "12/79",
+     "35 Ben 5/0F"},
+    {"6 against 1 is", 2, "35 Ben 5/0F; 34 Anna 1/0; 1 Anna 0/0", Plain + "12/79 0/12",
+     "34 Ben 6/0; 35 Ben 2/0F; Anna Troops 0"},
+    {"a tank counts two for the attacker", 2, "35 Ben 3/1F; 34 Anna 1/0; 1 Anna 0/0", Plain + "12/79 0/12",
+     "34 Ben 4/1; 35 Ben 2/0F; Anna Troops 0"},
+    {"and three for the defender", 2, "35 Ben 7/0F; 34 Anna 1/1", Plain + "12/79", "35 Ben 8/0F"},
+    {"and no more than three", 2, "35 Ben 8/0F; 34 Anna 1/1; 1 Anna 0/0", Plain + "12/79 0/12 0/12 0/12 0/12",
+     "34 Ben 9/0; 35 Ben 2/0F; Anna Tanks 0 Troops 0"},
+    {"units stop at the end of their range", 2, "35 Ben 32767/0F; 34 Anna 32767/0", Plain + "11/79",
+     "35 Ben 32767/1F"},
+    {"a bomb waits for 20 troops and takes the first such target", 3,
+     "35 Ben 2/0F; 1 Anna 19/50; 34 Cleo 20/7; 36 Anna 400/0; Ben HasNuke 1", Plain + "12/79",
+     "34 Cleo 10/6; 35 Ben 3/0F; Ben HasNuke 0; Cleo Tanks 6 Troops 10"},
+    {"attacks go by number, then by slot, and on from what was taken", 2,
+     "4 Ben 30/0F; 21 Ben 900/0; 3 Anna 3/0; 7 Anna 4/0; 8 Anna 2/0; 20 Anna 1/0; "
+     "5 Anna 99/0; 19 Anna 999/0; 30 Anna 999/0",
+     Plain + "12/78 0/12 0/12 0/12 0/12 0/12 0/12 0/12",
+     "3 Ben 2/0; 4 Ben 2/0F; 7 Ben 30/0; Anna Troops 2100"},
+};
+
+TEST(ComputerTurn, GoesByItsRules) {
+    for (const ComputerRow& row : ComputerTurns) {
+        SCOPED_TRACE(row.what);
+        Play play(row.players, row.world + "; Ben IsComputer 1", row.rolls);
+        play.Game.CurrentPlayer = 1;
+        const bool wins = row.players == 2 && row.changes.find("IsDead") != std::string::npos;
+        const std::string shown = "RefreshMap; ShowReport 2 The computer did the following:; ";
+        play.Then("computer",
+                  "CloseReport; 'Vorlund - Ben's turn'; " +
+                      (wins ? "ShowGameOver; " + shown +
+                                  "'Vorlund - Ben wins'; Announce Player 2, Ben, wins the game!; "
+                            : shown),
+                  row.changes);
+        EXPECT_EQ(play.Seen.Shown.Title, "Computer player Ben's status");
+        EXPECT_EQ(play.Seen.Shown.Body, row.told.empty() ? play.Seen.Shown.Body : row.told);
+        EXPECT_TRUE(play.Game.GameOver == wins && play.Game.ComputerTurnEnded != wins);
         EXPECT_EQ(play.Chance.Reseedings, 1);
     }
-}
-
-TEST(EndTurn, GivesTheNextHumanEverythingButTheCommands) {
-    GameState game = OneTerritoryEach();
-    game.Players[0].FirstTurn = game.Players[1].FirstTurn = true;
-    game.Players[1].MovesLeft = 0;
-    game.Players[1].AttacksLeft = 1;
-    game.ComputerTurnEnded = true;
-    Play play(game, {NoResearch});
-    play.Turn.EndTurn();
-    EXPECT_EQ(Changes(game, play.Game), "Anna FirstTurn 0; Ben Money 39 MovesLeft 2 AttacksLeft 2");
-    EXPECT_FALSE(play.Game.ComputerTurnEnded);
-    EXPECT_EQ(play.Seen.BoardTitle, "Vorlund - Ben's turn");
-    EXPECT_EQ(play.Seen.Calls, " CloseReport CloseDialogs SetCommands SetBoardTitle RefreshMap ShowReport");
-    EXPECT_EQ(play.Seen.Commands, CommandSet::None());
-    EXPECT_FALSE(play.Turn.ReportClosed());
-    EXPECT_EQ(play.Seen.Commands, CommandSet::All().Without(Command::Attack));
-
-    Play first(game, {NoResearch});
-    first.Game.Players[0].MovesLeft = 0;
-    first.Turn.OpenFirstTurn();
-    EXPECT_EQ(Changes(game, first.Game), "Anna Money 39");
-    EXPECT_EQ(first.Seen.Shown.Headline, "Upkeep status for Player 1, Anna.");
-    EXPECT_EQ(first.Seen.Picture, std::nullopt);
-    EXPECT_EQ(first.Seen.BoardTitle, "Vorlund - Anna's turn");
-}
-
-TEST(EndTurn, AnnouncesTheLastOneAliveWhoeverItIs) {
-    for (const bool isComputer : {false, true}) {
-        GameState game = NewGame(3);
-        Give(game, 7, 2, 1);
-        Bury(game, 0);
-        Bury(game, 1);
-        game.Players[2].IsComputer = isComputer;
-        Play play(game, {});
-        play.Turn.EndTurn();
-        EXPECT_TRUE(play.Game.GameOver);
-        EXPECT_EQ(play.Seen.Announcements, std::vector<std::string>{"Player 3, Cleo, you win the game!"});
-        EXPECT_EQ(play.Seen.BoardTitle, "Vorlund - Cleo wins");
-        EXPECT_EQ(play.Seen.Calls,
-                  " CloseReport CloseDialogs SetCommands ShowGameOver SetBoardTitle Announce");
-        EXPECT_FALSE(play.Turn.ReportClosed());
-        EXPECT_EQ(play.Seen.Commands, CommandSet::None());
-    }
-}
-
-TEST(EndTurn, ComesBackWhenNobodyLives) {
-    GameState game = NewGame(2);
-    Bury(game, 0);
-    Bury(game, 1);
-    Play play(game, {NoResearch});
-    NobodyWins(play.Game, play.Seen);
-    EXPECT_TRUE(play.Game.GameOver);
-    EXPECT_EQ(play.Seen.Announcements, std::vector<std::string>{"All players are dead, no one wins..."});
-    EXPECT_EQ(play.Seen.Calls, " RefreshMap SetCommands Announce CloseDialogs");
-    play.Turn.EndTurn();
-    EXPECT_EQ(play.Seen.Commands, CommandSet::None());
-}
-
-TEST(ReportClosed, GivesTheLastButOneWhoCollapsedTheEndOfTheTurn) {
-    GameState game = OneTerritoryEach();
-    game.Players[1].DebtTurns = 2;
-    game.Players[1].Money = -100;
-    Play play(game, {NoResearch});
-    play.Turn.EndTurn();
-    ASSERT_TRUE(play.Game.Players[1].IsDead);
-    EXPECT_TRUE(play.Seen.Announcements.empty());
-    EXPECT_FALSE(play.Turn.ReportClosed());
-    EXPECT_EQ(play.Seen.Commands, CommandSet::Only(Command::EndTurn));
-    play.Turn.EndTurn();
-    EXPECT_EQ(play.Seen.Announcements, std::vector<std::string>{"Player 1, Anna, you win the game!"});
-
-    // The one who has beaten the last opponent keeps the commands as they are.
-    play.Game.GameOver = false;
-    play.Seen.Calls.clear();
-    EXPECT_FALSE(play.Turn.ReportClosed());
-    EXPECT_EQ(play.Seen.Calls, "");
-}
-
-TEST(ReportClosed, HandsFromComputerToComputerAndOnToTheNextHuman) {
-    GameState game = NewGame(5);
-    Bury(game, 2);
-    for (const int p : {0, 1, 3, 4}) {
-        Give(game, 10 * p, p, 1);
-        game.PlayerAt(p).IsComputer = p == 1 || p == 3;
-    }
-    game.Players[3].AttacksLeft = 0;
-    Play play(game, {NoResearch});
-    TurnCycle turn(play.Game, play.Chance, play.Seen, [&] {
-        play.Game.ComputerTurnEnded = true;
-        play.Seen.ShowReport({"the turn of", play.Game.Current().Name, ""}, play.Game.CurrentPlayer);
-    });
-    turn.EndTurn();
-    EXPECT_EQ(play.Seen.Shown.Headline, "Ben");
-    EXPECT_EQ(play.Seen.BoardTitle, "Vorlund - Ben's turn");
-
-    play.Seen.Calls.clear();
-    EXPECT_TRUE(turn.ReportClosed());
-    EXPECT_EQ(play.Seen.Shown.Headline, "Dora");
-    EXPECT_EQ(play.Game.Players[3].AttacksLeft, 0) << "a computer after a computer gets none";
-    EXPECT_EQ(play.Seen.Calls, " HideReport ShowReport");
-
-    play.Seen.Calls.clear();
-    EXPECT_TRUE(turn.ReportClosed());
-    EXPECT_EQ(play.Seen.Shown.Headline, "Upkeep status for Player 5, Emil.");
-    EXPECT_EQ(play.Seen.Calls, " CloseDialogs SetCommands SetBoardTitle RefreshMap ShowReport");
-    EXPECT_FALSE(play.Turn.ReportClosed());
-    EXPECT_EQ(play.Seen.Commands, CommandSet::All());
 }
 
 }  // namespace

@@ -1,0 +1,329 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "savegame/folder.h"
+#include "savegame/format.h"
+#include "savegame/game_name.h"
+#include "savegame/windows1252.h"
+#include "tests/engine/games.h"
+#include "tests/fuzz/inputs.h"
+#include "tests/rules/small_worlds.h"
+
+namespace vorlund {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string Sample =
+    "1 Anna 10/0F; 2 Anna 0/0D; 8 Ben 11/0F; Anna Money -45; Ben IsComputer 1 Tanks -1";
+
+std::string Content(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Lines `first` to `last` of a written game, counted from 1.
+std::string Lines(const std::string& bytes, int first, int last) {
+    std::istringstream file(bytes);
+    std::string lines;
+    int number = 0;
+    for (std::string line; std::getline(file, line);) {
+        lines += ++number >= first && number <= last ? line + "\n" : "";
+    }
+    return lines;
+}
+
+/// The sample's file with `value` as its line number `line`.
+std::string WithLine(int line, const std::string& value) {
+    const std::string bytes = WriteGame(NewGame(2, Sample));
+    return Lines(bytes, 1, line - 1) + value + "\r\n" + Lines(bytes, line + 1, 371);
+}
+
+/// What a file gives: what is wrong with it and where, or what is different from the sample.
+std::string Read(const std::string& bytes) {
+    const auto result = ReadGame(FreshGame(), bytes);
+    const auto* const bad = std::get_if<BadFile>(&result);
+    return bad != nullptr ? std::to_string(bad->Line) + ": " + bad->What
+                          : Changes(NewGame(2, Sample), std::get<GameState>(result));
+}
+
+TEST(WriteGame, PutsEveryValueOnItsLineInItsForm) {
+    // A value of its own in every field of Ben's, true or false by turns; the writer takes what it is given.
+    GameState game =
+        NewGame(2,
+                "1 Anna 10/5D; Ben AttacksLeft 0 DebtTurns 7 EconomyLevel 2 Factories 6 Money -45 "
+                "NuclearLevel 3 HasNuke 1 Oil 32767 Tanks -32768 Troops 77 WarfareLevel 1 IsDead 1");
+    game.Players[0].Name = "a,b";
+    const std::string bytes = WriteGame(game);
+    EXPECT_EQ(Lines(bytes, 10, 10), "\"a,b\"\r\n");
+    EXPECT_EQ(Lines(bytes, 60, 76),
+              " 0 \r\nTrue\r\n 7 \r\n 2 \r\n 6 \r\nFalse\r\n-45 \r\n 2 \r\nBen\r\n 3 \r\nTrue\r\n 32767 \r\n"
+              "-32768 \r\n 77 \r\n 1 \r\nFalse\r\nFalse\r\n");
+    EXPECT_EQ(Lines(bytes, 118, 123), "True\r\nFalse\r\nTrue\r\n 0 \r\n 5 \r\n 10 \r\n");
+    EXPECT_EQ(Lines(bytes, 364, 999), "False\r\nFalse\r\nFalse\r\n 9 \r\n 0 \r\n 0 \r\n 0 \r\n 1 \r\n");
+}
+
+TEST(PlayerName, ReadsBackOrIsToldBeforehand) {
+    GameState game = NewGame(2, Sample);
+    for (const char* const name : {"\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4",
+                                   "\u20AC\u0081", "Anna  ", "  Anna", "a,b", "O\"Neil"}) {
+        game.Players[0].Name = name;
+        EXPECT_TRUE(NameReadsBack(name)) << name;
+        EXPECT_EQ(std::get<GameState>(ReadGame(FreshGame(), WriteGame(game))).Players[0].Name, name);
+    }
+    for (const char* const lost :
+         {"\"Anna", "a\",b", "\u0416", "\u0080", "a\tb", "a\x7F", "\xE4", "abcdefghijklm", ""}) {
+        EXPECT_FALSE(NameReadsBack(lost)) << lost;
+    }
+}
+
+TEST(Windows1252, EveryByteIsOneCharacterAndReadsBack) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const std::string bytes(1, static_cast<char>(byte));
+        EXPECT_EQ(ToWindows1252(FromWindows1252(bytes)), bytes) << byte;
+    }
+    EXPECT_EQ(FromWindows1252("\x80\x8C\x9F\xA0\xFF"), "\u20AC\u0152\u0178\u00A0\u00FF");
+    for (const char* const noUtf8 :
+         {"\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\x80", "\xE2\x82"}) {
+        EXPECT_EQ(ToWindows1252(noUtf8), std::nullopt);
+    }
+}
+
+TEST(ReadGame, IsPatientWithFormsLineEndsAndWhatFollows) {
+    const std::string bytes = WriteGame(NewGame(2, Sample));
+    std::string bare = bytes;
+    std::erase(bare, '\r');
+    for (const std::string& file :
+         {bare, bytes.substr(0, bytes.size() - 2), bytes + std::string(1 << 20, '\n'), WithLine(3, "false"),
+          WithLine(3, " FALSE "), WithLine(3, " 0.0 "), WithLine(8, "  -045  "), WithLine(10, " Anna"),
+          WithLine(10, "Anna,Bob"), WithLine(10, " \"Anna\" x")}) {
+        EXPECT_EQ(Read(file), "");
+    }
+    EXPECT_EQ(Read(WithLine(8, "+12")), "Anna Money 12");
+}
+
+TEST(ReadGame, RefusesABadFileWithItsLine) {
+    struct Row {
+        int line;
+        std::string values;  ///< that are each refused there, a bar behind every one
+        std::string wrong;
+    };
+    const std::string nobodys = ": Montreal Territory belongs to nobody, so nothing can stand in it.";
+    const std::vector<Row> rows{
+        {1, " 1 | 6 |" + std::string(MaxSavedGameBytes, ' ') + "2 |",
+         "1: NumPlayers of the game must be a whole number from 2 to 5."},
+        {2, " 3 |", "2: AttacksLeft of Player 1 must be a whole number from 0 to 2."},
+        {3, "Yes|", "3: IsDead of Player 1 must be True or False."},
+        {3, "True|", "3: Player 1 owns territories and must be alive."},
+        {4, "-1 |", "4: DebtTurns of Player 1 must be a whole number from 0 to 32767."},
+        {8, "| 32768 |99999999999|2.5|+-5|\t5|5\xD0|",
+         "8: Money of Player 1 must be a whole number from -32768 to 32767."},
+        {9, "-1 |", "9: MovesLeft of Player 1 must be a whole number from 0 to 2."},
+        {10, "abcdefghijklm| , 3|", "10: Name of Player 1 must be 1 to 12 characters that can be shown."},
+        {10, "\"Anna|", "10: Name of Player 1 must be closed by a double quote, as it starts with one."},
+        {16, " 4 |", "16: WarfareLevel of Player 1 must be a whole number from 0 to 3."},
+        {18, "False|", "18: Player 1's Owns and the Owner of Alaskan Territory do not agree."},
+        {120, "False|", "120: Alaskan Territory must be Occupied when it has an Owner, and only then."},
+        {121, " 2 |", "121: Owner of Alaskan Territory must be a player of this game, or 9 for nobody."},
+        {121, "10|", "121: Owner of Alaskan Territory must be a whole number from 0 to 9."},
+        {130, "True|", "130" + nobodys},
+        {134, " 1 |", "134" + nobodys},
+        {135, " 1 |", "135" + nobodys},
+        {370, " 2 |", "370: CurrentPlayer of the game must be a whole number from 0 to 1."},
+        {370, " 1 |", "370: CurrentPlayer of the game must be a living human player."},
+        {371, " 1 |", "371: DeadPlayers of the game must be 0."},
+    };
+    for (const Row& row : rows) {
+        std::istringstream values(row.values);
+        for (std::string value; std::getline(values, value, '|');) {
+            EXPECT_EQ(Read(WithLine(row.line, value)), row.wrong) << value;
+        }
+    }
+    EXPECT_EQ(Read(WriteGame(NewGame(2, "1 Anna 1/0"))), "61: Player 2 owns no territory and must be dead.");
+    EXPECT_EQ(Read(""), "1: The file ends before NumPlayers of the game.");
+}
+
+TEST(ReadGame, GivesASoundGameOrARefusalWhateverIsInTheFile) {
+    const std::string bytes = WriteGame(NewGame(2, Sample));
+    for (std::size_t size = 0; size < bytes.size() - 3; ++size) {
+        EXPECT_NE(Read(bytes.substr(0, size)).find(": "), std::string::npos) << size;
+    }
+    for (int line = 1; line <= 371; ++line) {
+        for (const char* const value : {"", " 1 ", "-1", "True"}) {
+            EXPECT_EQ(WrongWithGame(WithLine(line, value)), "") << line << ": " << value;
+        }
+    }
+}
+
+TEST(Corpus, WhatTheFuzzersHaveFoundStaysFound) {
+    for (const auto& entry : fs::recursive_directory_iterator(VORLUND_SOURCE_DIR "/tests/fuzz/corpus")) {
+        if (entry.is_directory()) {
+            continue;
+        }
+        const bool isGame = entry.path().extension() == ".vrs";
+        EXPECT_EQ(isGame ? WrongWithGame(Content(entry)) : WrongWithNumber(Content(entry)), "")
+            << entry.path();
+    }
+}
+
+TEST(GameName, GivesTheFileOrIsRefused) {
+    EXPECT_EQ(WhyNoGameName("100%&'~.."), std::nullopt);
+    EXPECT_EQ(FileNameOf("  MY 100%&'~.. "), "my 100%&'~...vrs");
+    EXPECT_EQ(FileNameOf("   "), ".vrs");
+    EXPECT_EQ(FileNameOf("\u00C4P\u00DF\u00D7\u0160\u0178\u0152\u0139"),
+              "\u00E4p\u00DF\u00D7\u0161\u00FF\u0153\u013A.vrs");
+    EXPECT_EQ(FileNameOf("\u03A9\u0416\u0401\U0001F600A"), "\u03C9\u0436\u0451\U0001F600a.vrs");
+    EXPECT_EQ(WhyNoGameName(""), "Enter an identifiable game name to open at a later time.");
+    const std::string refused =
+        "A game name cannot hold a control character or any of these:\r\\ / : * ? \" < > |";
+    for (const char* const name :
+         {"\\", "a/b", ":", "a*", "?", "\"a", "<a", "a>", "|", "\n", "a\x7F", "\u0085", "\xFF"}) {
+        EXPECT_EQ(WhyNoGameName(name), refused) << name;
+    }
+    EXPECT_EQ(SavedText("mygame.vrs"), "Game 'mygame.vrs' properly saved.");
+    EXPECT_EQ(DeleteQuestion(".vrs"), "Are you sure you want to delete the game .vrs?");
+}
+
+/// Stands between the saved games and the system, looks on before each call and makes one of them fail.
+struct Meddler {
+    std::size_t FailAt = 0;  ///< which call, counted from 1
+    int Error = 0;           ///< and how
+    std::size_t BytesAtOnce = MaxSavedGameBytes;
+    std::function<void()> Before = [] {};
+    std::vector<std::string> Names{};  ///< of the calls so far
+
+    SystemCalls Calls() {
+        SystemCalls calls = RealSystemCalls();
+        const auto wrapAll = [this](std::istringstream names, auto&... call) {
+            (Wrap(call, *std::istream_iterator<std::string>(names)), ...);
+        };
+        wrapAll(std::istringstream(
+                    "OpenForReading CreateNew OpenFolder Read Write Sync Close Rename Unlink MakeFolder"),
+                calls.OpenForReading, calls.CreateNew, calls.OpenFolder, calls.Read, calls.Write, calls.Sync,
+                calls.Close, calls.Rename, calls.Unlink, calls.MakeFolder);
+        return calls;
+    }
+
+    template <typename Result, typename... Arguments>
+    void Wrap(std::function<Result(Arguments...)>& call, const std::string& name) {
+        call = [this, name, real = call](Arguments... arguments) -> Result {
+            Before();
+            Names.push_back(name);
+            if constexpr (sizeof...(Arguments) == 3) {  // reading and writing
+                auto& size = std::get<2>(std::tie(arguments...));
+                size = std::min(size, BytesAtOnce);
+            }
+            errno = Error;
+            return Names.size() == FailAt ? -1 : real(arguments...);
+        };
+    }
+};
+
+const std::string Old = WriteGame(NewGame(2, Sample));
+const std::string New = WriteGame(NewGame(3, "1 Anna 10/3F; 9 Ben 2/1; 20 Cleo 0/0"));
+
+std::string CouldNot(const char* what, int error) {
+    return std::string("The game 'my.vrs' could not be ") + what + ".\r" +
+           std::generic_category().message(error) + ".";
+}
+
+struct SavedGames : testing::Test {
+    SavedGames() {
+        fs::create_directories(path);
+        Put("my.vrs", Old);
+        Put("unfinished.tmp", "what a crash has left");
+    }
+    ~SavedGames() override { fs::remove_all(path.parent_path()); }
+
+    void Put(const char* file, const std::string& bytes) const {
+        std::ofstream(path / file, std::ios::binary) << bytes;
+    }
+
+    /// The new game saved over `old`, or into no folder. At every moment the file is one or the other.
+    std::optional<std::string> Save(Meddler& meddler, const std::string& old) {
+        old.empty() ? void(fs::remove_all(path.parent_path())) : Put("my.vrs", old);
+        const SavedGamesFolder folder(path, meddler.Calls());
+        meddler.Before = [&] {
+            const std::string content = Content(path / "my.vrs");
+            EXPECT_TRUE(folder.List().size() <= 1 && (content == New || content == old));
+        };
+        auto error = folder.Save("my.vrs", std::get<GameState>(ReadGame(FreshGame(), New)));
+        meddler.Before();
+        EXPECT_TRUE(error || Content(path / "my.vrs") == New);
+        EXPECT_TRUE(meddler.FailAt == 1 || !fs::exists(path / "unfinished.tmp"));
+        return error;
+    }
+
+    const fs::path path = fs::temp_directory_path() / ("vorlund-" + std::to_string(getpid())) / "saves";
+};
+
+TEST_F(SavedGames, AreTheOldOneOrTheNewOneWhateverCallFails) {
+    for (const std::string& old : {Old, std::string()}) {
+        for (std::size_t place = 1, calls = 1; place <= calls; ++place) {
+            for (const int error : {ENOSPC, EACCES, EINTR}) {
+                Meddler meddler{place, error};
+                const auto message = Save(meddler, old);
+                calls = meddler.Names.size();
+                EXPECT_EQ(message.value_or(CouldNot("saved", error)), CouldNot("saved", error));
+                // An interrupted call is made again. Only flushing the parents of a new folder fails unsaid.
+                EXPECT_TRUE(message ? error != EINTR : error == EINTR || old.empty()) << place;
+            }
+        }
+    }
+    Meddler slow{0, 0, 1000};
+    EXPECT_EQ(Save(slow, Old), std::nullopt);
+    EXPECT_EQ(slow.Names, (std::vector<std::string>{"Unlink", "CreateNew", "Write", "Write", "Write", "Sync",
+                                                    "Close", "Rename", "OpenFolder", "Sync", "Close"}));
+    Meddler stuck{0, 0, 0};
+    EXPECT_EQ(Save(stuck, Old), CouldNot("saved", EIO));
+    Meddler cannotFlushFolders{8, EINVAL};
+    EXPECT_EQ(Save(cannotFlushFolders, Old), std::nullopt);
+}
+
+TEST_F(SavedGames, AreNotWrittenWhenTheyWouldNotReadBack) {
+    const std::string could = "The game 'my.vrs' could not be saved.\r";
+    GameState game = NewGame(2, "1 Anna 0/0");
+    EXPECT_EQ(SavedGamesFolder(path).Save("my.vrs", game),
+              could + "Player 2 owns no territory and must be dead.");
+    game = NewGame(2, Sample);
+    game.Players[1].Name = "\u0416";
+    EXPECT_EQ(SavedGamesFolder(path).Save("my.vrs", game), could + "It would not read back as it is.");
+}
+
+TEST_F(SavedGames, AreListedInOrderAndDeletedOneByOne) {
+    for (const char* const name :
+         {"zoo.vrs", "Beta.vrs", "alpha.vrs", ".vrs", "GAME.VRS", "a.vrs.bak", "*.vrs"}) {
+        Put(name, "");
+    }
+    fs::create_directory(path / "folder.vrs");
+    const SavedGamesFolder folder(path);
+    EXPECT_EQ(folder.Delete("*.vrs"), std::nullopt);
+    EXPECT_EQ(folder.Delete("my.vrs"), std::nullopt);
+    EXPECT_EQ(folder.Delete("my.vrs"), CouldNot("deleted", ENOENT));
+    EXPECT_EQ(folder.List(), (std::vector<std::string>{".vrs", "alpha.vrs", "Beta.vrs", "zoo.vrs"}));
+    EXPECT_EQ(SavedGamesFolder(path / "none").List(), std::vector<std::string>{});
+}
+
+TEST_F(SavedGames, AreLoadedOrSayWhyNot) {
+    const auto load = [&](Meddler meddler) {
+        const auto result = SavedGamesFolder(path, meddler.Calls()).Load("my.vrs", FreshGame());
+        EXPECT_LT(meddler.Names.size(), 80U) << "the rest of a large file is left alone";
+        const auto* const error = std::get_if<LoadError>(&result);
+        return error != nullptr ? error->Message : WriteGame(std::get<GameState>(result));
+    };
+    Put("my.vrs", New + std::string(1 << 20, 'x'));
+    EXPECT_EQ(load({3, EINTR, 1000}), New);
+    EXPECT_EQ(load({1, EIO}), CouldNot("loaded", EIO));
+    EXPECT_EQ(load({2, EIO}), CouldNot("loaded", EIO));
+    Put("my.vrs", "");
+    EXPECT_EQ(load({}),
+              "The game 'my.vrs' could not be loaded.\rLine 1: The file ends before NumPlayers of the game.");
+}
+
+}  // namespace
+}  // namespace vorlund
