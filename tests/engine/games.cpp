@@ -29,8 +29,7 @@ std::int16_t Units(Random& hands, int most, int room = 32767) {
 int OwnTerritory(const GameState& game, Random& hands) {
     std::vector<int> own;
     for (int t = 0; t < NumTerritories; ++t) {
-        const int units = game.TerritoryAt(t).Troops + game.TerritoryAt(t).Tanks;
-        if (Owns(game, game.CurrentPlayer, t) && (units > 0 || OneIn(4, hands))) {
+        if (Owns(game, game.CurrentPlayer, t)) {
             own.push_back(t);
         }
     }
@@ -86,7 +85,8 @@ GameState RandomPosition(Random& hands) {
         player.HasNuke = OneIn(3, hands);
         player.FirstTurn = OneIn(6, hands);
         if (std::count(player.Owns.begin(), player.Owns.end(), true) == 0) {
-            Bury(game, p);
+            player.IsDead = true;
+            ++game.DeadPlayers;
         }
     }
     return game;
@@ -121,19 +121,17 @@ std::string BrokenRecords(const GameState& game) {
     if (!Consistent(game)) {
         return "the records do not agree";
     }
-    std::array<Player, MaxPlayers> sums;
-    for (const Territory& territory : game.Territories) {
-        if (territory.Occupied) {
-            Player& sum = sums[static_cast<std::size_t>(territory.Owner)];
-            Add(sum.Troops, territory.Troops);
-            Add(sum.Tanks, territory.Tanks);
-            Add(sum.Factories, territory.HasFactory ? 1 : 0);
+    for (int p = 0; p < game.NumPlayers; ++p) {
+        const Player& player = game.PlayerAt(p);
+        Player sum;
+        for (const Territory& territory : game.Territories) {
+            const bool owns = territory.Owner == p;
+            Add(sum.Troops, owns ? territory.Troops : 0);
+            Add(sum.Tanks, owns ? territory.Tanks : 0);
+            Add(sum.Factories, owns && territory.HasFactory ? 1 : 0);
         }
-    }
-    for (std::size_t p = 0; p < static_cast<std::size_t>(game.NumPlayers); ++p) {
-        const Player& player = game.Players[p];
-        const bool units = player.Troops == sums[p].Troops && player.Tanks == sums[p].Tanks;
-        if (!player.IsDead && (player.Factories != sums[p].Factories || !(units || player.IsComputer))) {
+        const bool units = player.Troops == sum.Troops && player.Tanks == sum.Tanks;
+        if (!player.IsDead && (player.Factories != sum.Factories || !(units || player.IsComputer))) {
             return "the totals of player " + std::to_string(p + 1) + " are wrong";
         }
     }
@@ -141,11 +139,8 @@ std::string BrokenRecords(const GameState& game) {
 }
 
 std::string BrokenCommands(const GameState& game, CommandSet given) {
-    const Player& player = game.Current();
-    CommandSet exact = player.IsDead ? CommandSet::Only(Command::EndTurn) : CommandSet::All();
-    exact = player.FirstTurn ? exact.Without(Command::Attack) : exact;
-    const bool over = game.GameOver || game.DeadPlayers == game.NumPlayers;
-    return given == CommandSet::None() || (given == exact && !over) ? "" : "not an exact set of commands";
+    const bool exact = given == CommandSet::None() || given == AvailableCommands(game);
+    return exact ? "" : "not an exact set of commands";
 }
 
 std::string BrokenSaving(const GameState& game) {

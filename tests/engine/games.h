@@ -37,7 +37,7 @@ std::string TerritoryEntry(const GameState& game, Random& hands);
 /// Troops, tanks or barrels: mostly between nothing and `limit`, often just that.
 std::string QuantityEntry(int limit, Random& hands);
 
-/// Two territories: mostly an own one with units, and a neighbour of it.
+/// Two territories: mostly an own one, and a neighbour of it.
 struct Route {
     std::string From;
     std::string To;

@@ -12,12 +12,7 @@ class SeededRandom final : public Random {
 public:
     explicit SeededRandom(std::uint32_t seed) : engine_(seed) {}
 
-    std::int64_t Draws = 0;
-
-    float Uniform() override {
-        ++Draws;
-        return static_cast<float>(engine_() >> 8U) * 0x1p-24F;
-    }
+    float Uniform() override { return static_cast<float>(engine_() >> 8U) * 0x1p-24F; }
     void Reseed() override {}
 
 private:

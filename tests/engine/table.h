@@ -13,8 +13,6 @@ namespace vorlund {
 /// A game with its chance and its screens, put together as the program does it.
 struct Table {
     explicit Table(std::uint32_t seed) : Chance(seed) {}
-    Table(const Table&) = delete;
-    Table& operator=(const Table&) = delete;
 
     GameState Game;
     SeededRandom Chance;

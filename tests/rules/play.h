@@ -6,11 +6,13 @@
 
 #include "actions/battle.h"
 #include "actions/buy.h"
+#include "actions/sell.h"
 #include "actions/status.h"
 #include "actions/strike.h"
+#include "actions/transport.h"
+#include "actions/upgrade.h"
 #include "computer/computer_turn.h"
 #include "state/consistent.h"
-#include "tests/engine/said.h"
 #include "tests/rules/recorder.h"
 #include "tests/rules/scripted_random.h"
 #include "tests/rules/small_worlds.h"
@@ -19,6 +21,35 @@
 #include "turn/victory.h"
 
 namespace vorlund {
+
+/// What an order has led to, in one text: what the player is told, or a word in brackets.
+struct Said {
+    std::string operator()(const Refusal& refusal) const { return refusal.Message; }
+    std::string operator()(const Report& r) const { return r.Title + "|" + r.Headline + "|" + r.Body; }
+    std::string operator()(const Moved& moved) const { return moved.StatusLine; }
+    std::string operator()(const Purchase& purchase) const { return purchase.Message; }
+    std::string operator()(const Beep&) const { return "(beep)"; }
+    std::string operator()(const Nothing&) const { return "(nothing)"; }
+    std::string operator()(const NoSurvivor&) const { return "(nobody is left)"; }
+};
+
+/// All that the dialogs show of the current player.
+inline std::string Status(const GameState& game) {
+    const StatusLines s = DescribeStatus(game);
+    return s.Title + "|" + s.Name + "|" + s.Money + "|" + s.Oil + "|" + s.Troops + "|" + s.Tanks + "|" +
+           s.Factories + "|" + s.Debt + "|" + s.Economy + "|" + s.Warfare + "|" + s.Nuclear + "|" +
+           s.AttacksMoves + "|" + s.Upkeep + "|" + MoneyLine(game) + MovesLeftText(game) +
+           AttacksLeftText(game) + BombText(game) + StatusOf(game, Track::Warfare).Text;
+}
+
+/// `text` with these figures in the places of its # signs.
+inline std::string With(const std::string& figures, std::string text) {
+    std::istringstream all(figures);
+    for (std::string figure; all >> figure;) {
+        text.replace(text.find('#'), 1, figure);
+    }
+    return text;
+}
 
 /// A game that is played step by step.
 struct Play {
@@ -53,6 +84,7 @@ struct Play {
                : verb == "defense" ? said(Def(Game, first))
                : verb == "upgrade" ? said(RaiseLevel(Game, static_cast<Track>(std::stoi(first))))
                : verb == "upkeep"  ? Said{}(RunUpkeep(Game, Chance, Game.CurrentPlayer))
+               : verb == "status"  ? Status(Game)
                : verb == "open"    ? (Turn.OpenFirstTurn(), "")
                : verb == "end"     ? (Turn.EndTurn(), "")
                : verb == "close"   ? (Turn.ReportClosed(), "")
@@ -68,5 +100,26 @@ struct Play {
                        Seen.ShowReport({"", Game.Current().Name + " plays", ""}, Game.CurrentPlayer);
                    }};
 };
+
+/// Steps of Anna's in a world: which, what is told, and what changes, which is nothing when she is refused.
+struct Row {
+    const char* steps;  ///< a bar between those that all come to the same
+    std::string told;
+    std::string changes = "";
+    std::string otherwise = "";  ///< what is different in the world
+    std::string rolls = "";
+};
+
+inline void ExpectSteps(const std::string& world, const std::vector<Row>& rows) {
+    for (const Row& row : rows) {
+        std::istringstream steps(row.steps);
+        for (std::string step; std::getline(steps, step, '|');) {
+            SCOPED_TRACE(row.otherwise);
+            Play play(3, row.otherwise + world + row.otherwise, row.rolls);
+            play.Then(step, row.told, row.changes);
+            EXPECT_EQ(play.Chance.Reseedings, step.starts_with("attack,") ? 1 : 0);
+        }
+    }
+}
 
 }  // namespace vorlund

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "turn/screens.h"
 
@@ -12,12 +11,8 @@ namespace vorlund {
 class Recorder final : public Screens {
 public:
     std::optional<CommandSet> Commands;  ///< as last set
-    std::string BoardTitle;
-    Report Shown;                ///< the report screen's texts; empty after it was closed outright
-    std::optional<int> Picture;  ///< the player whose marker the report bears
+    Report Shown;                        ///< as last shown
     bool ReportVisible = false;
-    bool GameOverShown = false;
-    std::vector<std::string> Announcements;
     std::string Calls;  ///< all calls in their order, each with what it shows in few words
 
     void RefreshMap() override { Calls += "RefreshMap; "; }
@@ -28,20 +23,14 @@ public:
                  : available == CommandSet::Only(Command::EndTurn)         ? "EndTurn; "
                                                                            : "no commands; ";
     }
-    void SetBoardTitle(const std::string& title) override {
-        BoardTitle = title;
-        Calls += "'" + title + "'; ";
-    }
-    void ShowGameOver() override {
-        GameOverShown = true;
-        Calls += "ShowGameOver; ";
-    }
+    void SetBoardTitle(const std::string& title) override { Calls += "'" + title + "'; "; }
+    void ShowGameOver() override { Calls += "ShowGameOver; "; }
     void CloseDialogs() override { Calls += "CloseDialogs; "; }
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override {
         ReportVisible = true;
         Shown = report;
-        Picture = picturePlayer;
-        Calls += "ShowReport " + (Picture ? std::to_string(*Picture + 1) : "") + " " + report.Headline + "; ";
+        Calls += "ShowReport " + (picturePlayer ? std::to_string(*picturePlayer + 1) : "") + " " +
+                 report.Headline + "; ";
     }
     void HideReport() override {
         ReportVisible = false;
@@ -49,14 +38,9 @@ public:
     }
     void CloseReport() override {
         ReportVisible = false;
-        Shown = {};
-        Picture.reset();
         Calls += "CloseReport; ";
     }
-    void Announce(const std::string& text) override {
-        Announcements.push_back(text);
-        Calls += "Announce " + text + "; ";
-    }
+    void Announce(const std::string& text) override { Calls += "Announce " + text + "; "; }
 };
 
 }  // namespace vorlund

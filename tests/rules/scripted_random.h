@@ -24,8 +24,6 @@ public:
         std::string left;
         EXPECT_FALSE(script_ >> left) << "not asked for: " << left;
     }
-    ScriptedRandom(const ScriptedRandom&) = delete;
-    ScriptedRandom& operator=(const ScriptedRandom&) = delete;
 
     int Reseedings = 0;
 

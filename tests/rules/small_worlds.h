@@ -27,12 +27,6 @@ inline void GiveFactory(GameState& game, int t) {
     Add(game.PlayerAt(game.TerritoryAt(t).Owner).Factories, 1);
 }
 
-/// Kills a player who owns nothing.
-inline void Bury(GameState& game, int player) {
-    game.PlayerAt(player).IsDead = true;
-    ++game.DeadPlayers;
-}
-
 inline const std::map<std::string, std::variant<std::int16_t Player::*, bool Player::*>> PlayerFields{
     {"Money", &Player::Money},           {"Oil", &Player::Oil},
     {"Troops", &Player::Troops},         {"Tanks", &Player::Tanks},

@@ -4,49 +4,35 @@ namespace vorlund {
 namespace {
 
 TEST(Upkeep, BooksAndReports) {
-    struct Row {
-        const char* what;
-        std::string world;  ///< beside number 2, which stands empty and brings in 39 dollars
-        std::string roll;
-        std::string changes;
-        std::string figures;  ///< upkeep, barrels, income, what remains
-        std::string news = "";
+    const auto report = [](const std::string& figures) {
+        return With(figures,
+                    "Vorlund - Upkeep|Upkeep status for Player 1, Anna.|Upkeep for Troops and "
+                    "Factories: $#\rUpkeep for Tanks: # barrels\r\rMoney collected from "
+                    "territories: $#\rRemaining money after expenses: $#\r\r");
     };
     const std::string found = "Your nuclear development team has researched a nuclear bomb.\r\r";
     const std::string debt = "Your economy is in debt- economic unrest spreads through your land.\r";
     const std::string collapse = "Your territories collapse due to prolonged periods of lack of funds.";
     const std::vector<Row> rows{
-        {"four territories, an oil field and Economy level 2; a share of a dollar is cut off",
-         "1 Anna 10/3F 2 Anna 0/0F 3 Anna 0/0 4 Anna 0/0 Anna Money 100 EconomyLevel 2", "0/13",
-         "Anna Money 265 Oil 12", "22 3 187 165"},
-        {"missing oil is settled in money, the debt is counted", "2 Anna 0/7 Anna Money -34", "0/13",
-         "Anna DebtTurns 1 Money -2", "0 7 39 39", debt},
-        {"two turns in debt do not yet matter when money is there", "Anna Money -39 DebtTurns 2", "0/13",
-         "Anna Money 0", "0 0 39 39"},
-        {"the third turn in debt takes everything but the totals", "2 Anna 4/1FD Anna Money -30 DebtTurns 2",
-         "0/13", "2 nobody 0/0; Anna DebtTurns 3 IsDead 1 Money -1", "9 1 39 30", debt + collapse},
-        {"sums stop at the upper end of the fields", "1 Anna 0/0 Anna Money 32760 Oil 32760", "0/13",
-         "Anna Money 32767 Oil 32767", "0 0 78 78"},
-        {"and at the lower end", "Anna Money -32000 Troops 32767", "0/13", "Anna DebtTurns 1 Money -32768",
-         "32767 0 39 -32728", debt},
-        {"research finds a bomb", "", "2/13", "Anna HasNuke 1 Money 39", "0 0 39 39", found},
-        {"more often at Nuclear level 3", "Anna NuclearLevel 3", "2/3", "Anna HasNuke 1 Money 39",
-         "0 0 39 39", found},
-        {"but never a second one", "Anna HasNuke 1", "2/13", "Anna Money 39", "0 0 39 39"},
+        // Four territories, an oil field and Economy level 2; a share of a dollar is cut off.
+        {"upkeep", report("22 3 187 165"), "Anna Money 265 Oil 12",
+         "1 Anna 10/3F 2 Anna 0/0F 3 Anna 0/0 4 Anna 0/0 Anna Money 100 EconomyLevel 2", "0/13"},
+        // Missing oil is settled in money; two turns in debt do not matter when money is there again.
+        {"upkeep", report("0 7 39 39") + debt, "Anna DebtTurns 1 Money -2", "2 Anna 0/7 Anna Money -34",
+         "0/13"},
+        {"upkeep", report("0 0 39 39"), "Anna Money 0", "Anna Money -39 DebtTurns 2", "0/13"},
+        {"upkeep", report("9 1 39 30") + debt + collapse, "2 nobody 0/0; Anna DebtTurns 3 IsDead 1 Money -1",
+         "2 Anna 4/1FD Anna Money -30 DebtTurns 2", "0/13"},
+        // Sums stop at the ends of the fields.
+        {"upkeep", report("0 0 78 78"), "Anna Money 32767 Oil 32767", "1 Anna 0/0 Anna Money 32760 Oil 32760",
+         "0/13"},
+        {"upkeep", report("32767 0 39 -32728") + debt, "Anna DebtTurns 1 Money -32768",
+         "Anna Money -32000 Troops 32767", "0/13"},
+        {"upkeep", report("0 0 39 39") + found, "Anna HasNuke 1 Money 39", "", "2/13"},
+        {"upkeep", report("0 0 39 39") + found, "Anna HasNuke 1 Money 39", "Anna NuclearLevel 3", "2/3"},
+        {"upkeep", report("0 0 39 39"), "Anna Money 39", "Anna HasNuke 1", "2/13"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        std::string report =
-            "Vorlund - Upkeep|Upkeep status for Player 1, Anna.|Upkeep for Troops and Factories: $#\rUpkeep "
-            "for Tanks: # barrels\r\r"
-            "Money collected from territories: $#\rRemaining money after expenses: $#\r\r";
-        std::istringstream figures(row.figures);
-        for (std::string figure; figures >> figure;) {
-            report.replace(report.find('#'), 1, figure);
-        }
-        Play(2, row.world + " 2 Anna 0/0 42 Ben 0/0", row.roll)
-            .Then("upkeep", report + row.news, row.changes);
-    }
+    ExpectSteps(" 2 Anna 0/0 41 Cleo 0/0 42 Ben 0/0", rows);
 }
 
 const std::string Ended = "CloseReport; CloseDialogs; no commands; ";
@@ -61,20 +47,17 @@ std::string WonBy(const std::string& name, const std::string& number) {
            ", you win the game!; ";
 }
 
-TEST(Turn, GivesTheNextHumanEverythingButTheCommands) {
-    Play play(2, "1 Anna 0/0 11 Ben 0/0 Anna MovesLeft 0 FirstTurn 1 Ben AttacksLeft 1 FirstTurn 1",
-              "0/13 0/13");
+TEST(Turn, GivesTheNextOneAliveEverythingButTheCommands) {
+    Play play(5,
+              "1 Anna 0/0 21 Cleo 0/0 Ben IsDead 1 Dora IsDead 1 Emil IsDead 1 "
+              "Anna MovesLeft 0 FirstTurn 1 Cleo AttacksLeft 1 FirstTurn 1",
+              "0/13 0/13 0/13");
     play.Then("open", TurnOf("Anna", "1", ""), "Anna Money 39 MovesLeft 2 Oil 15");
     play.Then("close", "all but Attack; ");
-    play.Then("end", Ended + TurnOf("Ben", "2", "2"), "Anna FirstTurn 0; Ben AttacksLeft 2 Money 39");
-    EXPECT_EQ(play.Chance.Reseedings, 2);
-}
-
-TEST(Turn, PassesByTheDeadAndRoundTheEnd) {
-    Play play(5, "1 Anna 0/0 21 Cleo 0/0 Ben IsDead 1 Dora IsDead 1 Emil IsDead 1", "0/13 0/13");
-    play.Then("end", Ended + TurnOf("Cleo", "3", "3"), "Cleo Money 39");
+    play.Then("end", Ended + TurnOf("Cleo", "3", "3"), "Anna FirstTurn 0; Cleo AttacksLeft 2 Money 39");
+    play.Then("end", Ended + TurnOf("Anna", "1", "1"), "Anna Money 78 Oil 30; Cleo FirstTurn 0");
     play.Then("close", "all commands; ");
-    play.Then("end", Ended + TurnOf("Anna", "1", "1"), "Anna Money 39 Oil 15");
+    EXPECT_EQ(play.Chance.Reseedings, 3);
 }
 
 TEST(Turn, AnnouncesTheLastOneAliveWhoeverItIs) {
@@ -90,7 +73,6 @@ TEST(Turn, ComesBackWhenNobodyLives) {
     NobodyWins(play.Game, play.Seen);
     EXPECT_EQ(play.Seen.Calls,
               "RefreshMap; no commands; Announce All players are dead, no one wins...; CloseDialogs; ");
-    EXPECT_TRUE(play.Game.GameOver);
     play.Then("end", Ended + TurnOf("Anna", "1", "1"));
 }
 
@@ -126,7 +108,6 @@ TEST(Turn, TellsWhyACommandIsMissing) {
 }
 
 struct ComputerRow {
-    const char* what;
     int players;
     std::string world;
     std::string rolls;
@@ -140,8 +121,7 @@ const std::string FirstTurn = "0/5 4/10 4/10 ";
 
 // Ben plays. Japan, 35, borders on 34 alone, and so do South Africa, 27, on 26, and 26 on 25 and 27.
 const std::vector<ComputerRow> ComputerTurns{
-    {"a whole turn with everything", 3,
-     "6 Ben 10/2; 35 Ben 4/0; 7 Anna 21/5D; 34 Anna 2/0; 9 Cleo 1/0F; Anna WarfareLevel 3",
+    {3, "6 Ben 10/2; 35 Ben 4/0; 7 Anna 21/5D; 34 Anna 2/0; 9 Cleo 1/0F; Anna WarfareLevel 3",
      "2/5 1/3 1/5 5/10 4/10 "    // a bomb, a second claim, from the last territory and the first slot
      "2/6 0/6 11/76 "            // claims 2 with a defense, then 1 without; tanks for the front
      "1/2 0/3 2/3 1/5 "          // 1 borders 2: a troop and a tank, then 29: a troop
@@ -158,45 +138,43 @@ const std::vector<ComputerRow> ComputerTurns{
      "Ben lost 1/0 troops/tanks, and defender lost 1/0 troops/tanks.\rPlayer 3 is now dead.\r"
      "\rAttack on Manchurian Territory, Anna, was held off.\r"
      "Ben lost 5/1 troops/tanks, and defender lost 1/0 troops/tanks.\r"},
-    {"a victory ends it", 2, "35 Ben 20/0F; 34 Anna 1/0", Plain + "12/79 0/12",
+    {2, "35 Ben 20/0F; 34 Anna 1/0", Plain + "12/79 0/12",  // a victory ends it
      "34 Ben 21/0; 35 Ben 2/0F; Anna IsDead 1 Troops 0",
      "\rAttack on Manchurian Territory, Anna, was successful.\r"
      "Ben lost 0/0 troops/tanks, and defender lost 1/0 troops/tanks.\rPlayer 1 is now dead.\r"},
-    {"two players and luck are a second claim", 2, "27 Ben 1/0F; 1 Anna 1/0",
-     "0/5 1/3 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7", "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F"},
-    {"three without luck claim one", 3, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0",
-     "0/5 1/3 2/5 5/10 4/10 1/6 50/78 3/7 4/7", "26 Ben 4/0; 27 Ben 3/1F"},
-    {"four have no such luck", 4, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0",
-     "0/5 1/3 1/5 5/10 4/10 1/6 50/78 4/7 4/7", "26 Ben 4/1; 27 Ben 3/1F"},
-    {"in their first turn everybody claims two", 4,
-     "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0; Ben FirstTurn 1",
+    // Two players and luck are a second claim, three without luck claim one, and four have no such luck.
+    {2, "27 Ben 1/0F; 1 Anna 1/0", "0/5 1/3 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7",
+     "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F"},
+    {3, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0", "0/5 1/3 2/5 5/10 4/10 1/6 50/78 3/7 4/7",
+     "26 Ben 4/0; 27 Ben 3/1F"},
+    {4, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0", "0/5 1/3 1/5 5/10 4/10 1/6 50/78 4/7 4/7",
+     "26 Ben 4/1; 27 Ben 3/1F"},
+    // In their first turn everybody claims two, and nobody attacks.
+    {4, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0; Ben FirstTurn 1",
      "0/5 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7", "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F; Ben FirstTurn 0"},
-    {"the free factory comes where a tank counts three; nobody attacks in the first turn", 2,
-     "27 Ben 2/1; 35 Ben 4/0; 26 Anna 0/0; 34 Anna 0/0; Ben FirstTurn 1", FirstTurn + "12/78",
+    // The free factory comes where a tank counts three, and to the last among equals.
+    {2, "27 Ben 2/1; 35 Ben 4/0; 26 Anna 0/0; 34 Anna 0/0; Ben FirstTurn 1", FirstTurn + "12/78",
      "27 Ben 3/1F; 35 Ben 5/0; Ben Factories 1 FirstTurn 0"},
-    {"and to the last among equals, where there is nothing at all", 2,
-     "27 Ben 0/0; 35 Ben 0/0; 26 Anna 1/0; 34 Anna 1/0; Ben FirstTurn 1", FirstTurn + "12/78",
+    {2, "27 Ben 0/0; 35 Ben 0/0; 26 Anna 1/0; 34 Anna 1/0; Ben FirstTurn 1", FirstTurn + "12/78",
      "27 Ben 1/0; 35 Ben 1/0F; Ben Factories 1 FirstTurn 0"},
-    {"a scan forward, last slots first", 2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0",
-     "0/5 1/3 4/10 5/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7", "4 Ben 3/0F; 5 Ben 4/0; 8 Ben 4/0D; 35 Ben 3/0"},
-    {"backward and on from the land just claimed", 2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0",
-     "0/5 1/3 5/10 4/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7", "4 Ben 3/0F; 29 Ben 4/0D; 34 Ben 4/0; 35 Ben 3/0"},
-    {"three troops never attack", 2, "35 Ben 2/90F; 34 Anna 0/0", Plain + "12/79", "35 Ben 3/90F"},
-    {"5 against 1 is not enough", 2, "35 Ben 4/0F; 34 Anna 1/0; Ben HasNuke 1", Plain + "12/79",
-     "35 Ben 5/0F"},
-    {"6 against 1 is", 2, "35 Ben 5/0F; 34 Anna 1/0; 1 Anna 0/0", Plain + "12/79 0/12",
-     "34 Ben 6/0; 35 Ben 2/0F; Anna Troops 0"},
-    {"a tank counts two for the attacker", 2, "35 Ben 3/1F; 34 Anna 1/0; 1 Anna 0/0", Plain + "12/79 0/12",
-     "34 Ben 4/1; 35 Ben 2/0F; Anna Troops 0"},
-    {"and three for the defender", 2, "35 Ben 7/0F; 34 Anna 1/1", Plain + "12/79", "35 Ben 8/0F"},
-    {"and no more than three", 2, "35 Ben 8/0F; 34 Anna 1/1; 1 Anna 0/0", Plain + "12/79 0/12 0/12 0/12 0/12",
-     "34 Ben 9/0; 35 Ben 2/0F; Anna Tanks 0 Troops 0"},
-    {"units stop at the end of their range", 2, "35 Ben 32767/0F; 34 Anna 32767/0", Plain + "11/79",
-     "35 Ben 32767/1F"},
-    {"a bomb waits for 20 troops and takes the first such target", 3,
-     "35 Ben 2/0F; 1 Anna 19/50; 34 Cleo 20/7; 36 Anna 400/0; Ben HasNuke 1", Plain + "12/79",
+    // A scan forward, last slots first, and one backward and on from the land just claimed.
+    {2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0", "0/5 1/3 4/10 5/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7",
+     "4 Ben 3/0F; 5 Ben 4/0; 8 Ben 4/0D; 35 Ben 3/0"},
+    {2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0", "0/5 1/3 5/10 4/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7",
+     "4 Ben 3/0F; 29 Ben 4/0D; 34 Ben 4/0; 35 Ben 3/0"},
+    // Three troops never attack, and 5 against 1 are not enough.
+    {2, "27 Ben 2/90F; 26 Anna 0/0; 35 Ben 4/0; 34 Anna 1/0; Ben HasNuke 1", Plain + "12/78",
+     "27 Ben 3/90F; 35 Ben 5/0"},
+    // 6 against 1 are; a tank counts two for the attacker, and three and no more for the defender.
+    {2, "27 Ben 5/0F; 26 Anna 1/0; 35 Ben 3/1; 34 Anna 1/0; 1 Anna 0/0", Plain + "12/78 0/12 0/12",
+     "26 Ben 6/0; 27 Ben 2/0F; 34 Ben 4/1; 35 Ben 2/0; Anna Troops 0"},
+    {2, "27 Ben 7/0F; 26 Anna 1/1; 35 Ben 8/0; 34 Anna 1/1", Plain + "12/78 0/12 0/12 0/12 0/12",
+     "27 Ben 8/0F; 34 Ben 9/0; 35 Ben 2/0; Anna Tanks 1 Troops 1"},
+    // A bomb waits for 20 troops and takes the first such target.
+    {3, "35 Ben 2/0F; 1 Anna 19/50; 34 Cleo 20/7; 36 Anna 400/0; Ben HasNuke 1", Plain + "12/79",
      "34 Cleo 10/6; 35 Ben 3/0F; Ben HasNuke 0; Cleo Tanks 6 Troops 10"},
-    {"attacks go by number, then by slot, and on from what was taken", 2,
+    // Attacks go by number, then by slot, and on from what was taken.
+    {2,
      "4 Ben 30/0F; 21 Ben 900/0; 3 Anna 3/0; 7 Anna 4/0; 8 Anna 2/0; 20 Anna 1/0; "
      "5 Anna 99/0; 19 Anna 999/0; 30 Anna 999/0",
      Plain + "12/78 0/12 0/12 0/12 0/12 0/12 0/12 0/12",
@@ -205,7 +183,7 @@ const std::vector<ComputerRow> ComputerTurns{
 
 TEST(ComputerTurn, GoesByItsRules) {
     for (const ComputerRow& row : ComputerTurns) {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE(row.world);
         Play play(row.players, row.world + "; Ben IsComputer 1", row.rolls);
         play.Game.CurrentPlayer = 1;
         const bool wins = row.players == 2 && row.changes.find("IsDead") != std::string::npos;

@@ -7,7 +7,6 @@
 #include "actions/strike.h"
 #include "actions/transport.h"
 #include "actions/upgrade.h"
-#include "savegame/format.h"
 #include "tests/engine/games.h"
 #include "tests/engine/table.h"
 #include "turn/victory.h"
@@ -16,7 +15,6 @@ namespace vorlund {
 namespace {
 
 constexpr int StepsPerGame = 1500;
-constexpr int LeastDrawsOfAComputer = 4;  // bomb, two directions, tank bonus
 
 /// Random hands at the board of one game: they open dialogs, give orders, close dialogs and reports and end
 /// turns, in any order that the screens allow. The same seed plays the same game.
@@ -37,32 +35,29 @@ public:
     std::string Step() {
         const GameState before = Game;
         Seen.Calls.clear();
-        Chance.Draws = 0;
-        may_ = May::ChangeNothing;
+        ordered_ = false;
         Act();
-        if ((may_ == May::ChangeNothing && Game != before) || (may_ < May::Draw && Chance.Draws != 0)) {
-            return "something was changed or drawn that had not been ordered";
+        if (!ordered_ && Game != before) {
+            return "something has changed that had not been ordered";
         }
         if (!dialog_ && !Seen.ReportVisible && !Game.GameOver && Seen.Commands == CommandSet::None()) {
             return "nothing is left to do, and the game is not over";
         }
-        return (may_ == May::PassTheTurn ? BrokenHandOver(before) : "") + BrokenRecords(Game) +
-               BrokenCommands(Game, *Seen.Commands) + (dialog_ == Command::Save ? BrokenSaving(Game) : "");
+        return BrokenRecords(Game) + BrokenCommands(Game, *Seen.Commands) +
+               (dialog_ == Command::Save ? BrokenSaving(Game) : "");
     }
 
 private:
-    enum class May { ChangeNothing, Change, Draw, PassTheTurn };
-
     void Act() {
         if (Game.GameOver || (Seen.ReportVisible && OneIn(4, mind_))) {
-            may_ = Turn.ReportClosed() ? May::PassTheTurn : May::ChangeNothing;
-            if (may_ == May::ChangeNothing) {
+            ordered_ = Turn.ReportClosed();
+            if (!ordered_) {
                 Seen.CloseReport();
             }
         } else if (dialog_ && !OneIn(5, mind_)) {
             OneIn(5, mind_) ? CloseDialog() : Order();
         } else if (Seen.Commands->Has(Command::EndTurn) && OneIn(restlessness_, mind_)) {
-            may_ = May::PassTheTurn;
+            ordered_ = true;
             Turn.EndTurn();
         } else if (const Command command = Any(AllCommands, mind_);
                    Seen.Commands->Has(command) && command != Command::EndTurn) {
@@ -99,48 +94,25 @@ private:
             Settle((OneIn(2, mind_) ? Fact : Def)(Game, route.From));
         } else if (*dialog_ == Command::Upgrade) {
             Settle(RaiseLevel(Game, static_cast<Track>(mind_.Draw(3))));
-        } else if (*dialog_ == Command::Save) {
-            may_ = May::Change;
-            Game = std::get<GameState>(ReadGame(FreshGame(), WriteGame(Game)));
         }
     }
 
     template <class Outcome>
     void Settle(const Outcome& outcome) {
-        if (outcome.index() == 0 || std::holds_alternative<Refusal>(outcome)) {
-            return;
-        }
-        may_ = *dialog_ == Command::Attack ? May::Draw : May::Change;
-        if (*dialog_ != Command::Transport && *dialog_ != Command::Upgrade) {
+        ordered_ = outcome.index() != 0 && !std::holds_alternative<Refusal>(outcome);
+        if (ordered_ && *dialog_ != Command::Transport && *dialog_ != Command::Upgrade) {
             Seen.ShowReport({}, std::nullopt);
             CloseDialog();
         }
-        if (Game.DeadPlayers == Game.NumPlayers) {
+        if (ordered_ && Game.DeadPlayers == Game.NumPlayers) {
             NobodyWins(Game, Seen);
         }
-    }
-
-    std::string BrokenHandOver(const GameState& before) const {
-        const Player& player = Game.Current();
-        if (Game.GameOver) {
-            const bool oneIsLeft = Game.DeadPlayers == Game.NumPlayers - 1 && !player.IsDead;
-            const bool told = Seen.Announcements.size() == 1 && Seen.GameOverShown &&
-                              Seen.BoardTitle == "Vorlund - " + player.Name + " wins";
-            return oneIsLeft && told && !before.GameOver ? "" : "the game ended wrongly";
-        }
-        if (!Seen.ReportVisible || Seen.Picture != Game.CurrentPlayer || dialog_ ||
-            Seen.Commands != CommandSet::None() || before.CurrentPlayer == Game.CurrentPlayer ||
-            player.IsComputer != Game.ComputerTurnEnded) {
-            return "what is on screen is not the report of the next player's turn alone";
-        }
-        const bool wellDrawn = player.IsComputer ? Chance.Draws >= LeastDrawsOfAComputer : Chance.Draws == 1;
-        return wellDrawn ? "" : "the turn has made the wrong draws";
     }
 
     SeededRandom mind_;
     int restlessness_ = OneIn(3, mind_) ? 2 : 12;  ///< one in so many thoughts is of ending the turn
     std::optional<Command> dialog_;
-    May may_ = May::ChangeNothing;
+    bool ordered_ = false;
 };
 
 }  // namespace
@@ -153,17 +125,14 @@ int main() {
     const char* const gamesGiven = std::getenv("VORLUND_GAMES");
     const int first = seedGiven != nullptr ? std::atoi(seedGiven) : 1;
     const int games = gamesGiven != nullptr ? std::atoi(gamesGiven) : 2000;
-    int turns = 0;
     for (int seed = first; seed < first + games; ++seed) {
         vorlund::Hands hands(static_cast<std::uint32_t>(seed));
         for (int step = 0; step < vorlund::StepsPerGame; ++step) {
-            const int player = hands.Game.CurrentPlayer;
             if (const std::string broken = hands.Step(); !broken.empty()) {
                 std::printf("BROKEN: %s in step %d with VORLUND_SEED=%d\n", broken.c_str(), step, seed);
                 return 1;
             }
-            turns += player != hands.Game.CurrentPlayer ? 1 : 0;
         }
     }
-    std::printf("%d games, %d turns\n", games, turns);
+    std::printf("%d games\n", games);
 }
