@@ -36,6 +36,12 @@ int OwnTerritory(const GameState& game, Random& hands) {
     return own.empty() ? hands.Draw(NumTerritories) : Any(own, hands);
 }
 
+/// A territory's number: mostly one of the current player's.
+std::string TerritoryEntry(const GameState& game, Random& hands) {
+    const int t = OneIn(4, hands) ? hands.Draw(NumTerritories) : OwnTerritory(game, hands);
+    return OneIn(8, hands) ? Any(Nasty, hands) : std::to_string(t + 1);
+}
+
 }  // namespace
 
 GameState FreshGame() {
@@ -94,11 +100,6 @@ GameState RandomPosition(Random& hands) {
 
 std::string NameEntry(Random& hands) {
     return Names[static_cast<std::size_t>(hands.Draw(OneIn(4, hands) ? static_cast<int>(Names.size()) : 3))];
-}
-
-std::string TerritoryEntry(const GameState& game, Random& hands) {
-    const int t = OneIn(4, hands) ? hands.Draw(NumTerritories) : OwnTerritory(game, hands);
-    return OneIn(8, hands) ? Any(Nasty, hands) : std::to_string(t + 1);
 }
 
 std::string QuantityEntry(int limit, Random& hands) {

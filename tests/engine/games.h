@@ -2,8 +2,10 @@
 
 #include <string>
 
-#include "state/random.h"
-#include "turn/commands.h"
+#include "computer/computer_turn.h"
+#include "tests/engine/seeded_random.h"
+#include "tests/rules/recorder.h"
+#include "turn/turn_cycle.h"
 
 namespace vorlund {
 
@@ -16,6 +18,16 @@ template <class List>
 auto Any(const List& list, Random& hands) {
     return list[static_cast<typename List::size_type>(hands.Draw(static_cast<int>(list.size())))];
 }
+
+/// A game with its chance and its screens, put together as the program does it.
+struct Table {
+    explicit Table(std::uint32_t seed) : Chance(seed) {}
+
+    GameState Game;
+    SeededRandom Chance;
+    Recorder Seen;
+    TurnCycle Turn{Game, Chance, Seen, [this] { ComputerTurn(Game, Chance, Seen); }};
+};
 
 /// The state as the title screen leaves it.
 GameState FreshGame();
@@ -30,9 +42,6 @@ GameState RandomPosition(Random& hands);
 // What a player of random temper types. Most of it makes sense, some is no number, hard to bear or refused.
 
 std::string NameEntry(Random& hands);
-
-/// A territory's number: mostly one of the current player's.
-std::string TerritoryEntry(const GameState& game, Random& hands);
 
 /// Troops, tanks or barrels: mostly between nothing and `limit`, often just that.
 std::string QuantityEntry(int limit, Random& hands);
@@ -51,8 +60,7 @@ Route RandomRoute(const GameState& game, Random& hands);
 /// The records agree, and the totals of every living human are the sums over that player's territories.
 std::string BrokenRecords(const GameState& game);
 
-/// `given` is one of the exact sets: all eight commands with Attack only after the first turn, End Turn alone
-/// for the dead, or none.
+/// `given` are all the commands that the current player may use, or none.
 std::string BrokenCommands(const GameState& game, CommandSet given);
 
 /// A living human's game, saved, reads back as it was and gives the same bytes again.

@@ -8,7 +8,6 @@
 #include "state/consistent.h"
 #include "state/typed_number.h"
 #include "tests/engine/games.h"
-#include "tests/engine/table.h"
 
 namespace vorlund {
 namespace {

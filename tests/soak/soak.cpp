@@ -8,13 +8,10 @@
 #include "actions/transport.h"
 #include "actions/upgrade.h"
 #include "tests/engine/games.h"
-#include "tests/engine/table.h"
 #include "turn/victory.h"
 
 namespace vorlund {
 namespace {
-
-constexpr int StepsPerGame = 1500;
 
 /// Random hands at the board of one game: they open dialogs, give orders, close dialogs and reports and end
 /// turns, in any order that the screens allow. The same seed plays the same game.
@@ -56,7 +53,7 @@ private:
             }
         } else if (dialog_ && !OneIn(5, mind_)) {
             OneIn(5, mind_) ? CloseDialog() : Order();
-        } else if (Seen.Commands->Has(Command::EndTurn) && OneIn(restlessness_, mind_)) {
+        } else if (Seen.Commands->Has(Command::EndTurn) && OneIn(6, mind_)) {
             ordered_ = true;
             Turn.EndTurn();
         } else if (const Command command = Any(AllCommands, mind_);
@@ -110,7 +107,6 @@ private:
     }
 
     SeededRandom mind_;
-    int restlessness_ = OneIn(3, mind_) ? 2 : 12;  ///< one in so many thoughts is of ending the turn
     std::optional<Command> dialog_;
     bool ordered_ = false;
 };
@@ -127,7 +123,7 @@ int main() {
     const int games = gamesGiven != nullptr ? std::atoi(gamesGiven) : 2000;
     for (int seed = first; seed < first + games; ++seed) {
         vorlund::Hands hands(static_cast<std::uint32_t>(seed));
-        for (int step = 0; step < vorlund::StepsPerGame; ++step) {
+        for (int step = 0; step < 1500; ++step) {
             if (const std::string broken = hands.Step(); !broken.empty()) {
                 std::printf("BROKEN: %s in step %d with VORLUND_SEED=%d\n", broken.c_str(), step, seed);
                 return 1;
