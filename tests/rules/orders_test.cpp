@@ -45,10 +45,8 @@ TEST(Orders, Sell) {
     const std::string total = "        Total money gained: $";
     ExpectOrders({
         {"sell,7,4.5,2,7",
-         title +
-             "You sold 4 Troops for $28 in Midwest USA.\rYou sold 2 Tanks for $60 in Midwest USA.\r"
-             "You sold 6 oil barrels for $2.\r\r" +
-             total + "90\r\r",
+         title + "You sold 4 Troops for $28 in Midwest USA.\rYou sold 2 Tanks for $60 in Midwest USA.\r"
+                 "You sold 6 oil barrels for $2.\r\r        Total money gained: $90\r\r",
          "7 Anna 6/1F; Anna Money 590 Oil 4 Tanks 1 Troops 11"},
         {"sell,1,0.5,-1,9", title + "You sold 9 oil barrels for $3.\r\r" + total + "3\r\r",
          "Anna Money 503 Oil 0", "1 Anna 0/0; Anna Oil 9"},  // an empty territory stays hers
