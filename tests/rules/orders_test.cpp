@@ -29,7 +29,7 @@ TEST(Orders, Buy) {
         {"buy,7.4,-3,2.9,2.9", title + "You bought 2 Tanks for $80 in Midwest USA.\r        Total spent: $80",
          "7 Anna 10/5F; Anna Money 420 Tanks 5"},
         {"buy|buy,7,0.5|buy,8,5,,x|buy,x,5|buy,7,4e4|buy,7,,820", NoTransaction},
-        {"buy,8,-0.5|buy,9,1", "To buy Troops the territory must have a factory and be owned by you."},
+        {"buy,8,,-0.5|buy,9,,1", "To buy Tanks the territory must have a factory and be owned by you."},
         {"buy,,-3|buy,.5,5,5|buy,43,5", "To buy Troops" + OutOfRange},
         {"buy,7,,819", tooDear + "32260" + more},  // just within 16 bits
         {"buy,,,,5003", tooDear + "1" + more, "", "Anna Money 1667"},
@@ -56,7 +56,7 @@ TEST(Orders, Sell) {
          "7 nobody 0/0; Anna Factories 0 IsDead 1 Money 570 Troops 0", "7 Anna 10/0F; 8 Cleo 5/0"},
         {"sell|sell,99,0.5|sell,99,1,x|sell,x,1", NoTransaction},
         {"sell,,,1|sell,43,,1", "To sell Tanks" + OutOfRange},
-        {"sell,9,1|sell,1,1", "To sell Troops the territory must be owned by you."},
+        {"sell,9,,1|sell,1,,1", "To sell Tanks the territory must be owned by you."},
         {"sell,7,11", "You cannot sell more Troops than you have in a territory."},
         {"sell,7,1,4,99", "You cannot sell more Tanks than you have in a territory."},
         {"sell,,,,11", "You cannot sell more oil barrels than you have."},  // although 9 would be sold
