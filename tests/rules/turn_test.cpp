@@ -69,6 +69,7 @@ TEST(Turn, ComesBackWhenNobodyLives) {
     NobodyWins(play.Game, play.Seen);
     EXPECT_EQ(play.Seen.Calls,
               "RefreshMap; no commands; Announce All players are dead, no one wins...; CloseDialogs; ");
+    EXPECT_TRUE(play.Game.GameOver);
     play.Then("end", Ended + With("Anna 1 1 Anna", TurnBegins));
 }
 
