@@ -1,17 +1,12 @@
-#include <QApplication>
-#include <QWidget>
 #include <string_view>
 
 #include "tests/bench/first_paint.h"
 
-// An empty window of the title screen's size, or of the board's when its memory is asked for.
+// An empty window of the size of the title screen or of the board.
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    const bool memory = argc > 1 && std::string_view(argv[1]) == "memory";
-    FirstPaint firstPaint(memory);
-    qApp->installEventFilter(&firstPaint);
     QWidget window;
-    window.setFixedSize(memory ? QSize(750, 525) : QSize(400, 223));
+    window.setFixedSize(std::string_view(argv[1]) == "title" ? QSize(400, 223) : QSize(750, 525));
     window.show();
-    return QApplication::exec();
+    return TellPaintAndStay();
 }

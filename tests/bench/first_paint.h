@@ -1,44 +1,35 @@
 #pragma once
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
-#include <QFile>
 #include <QTimer>
+#include <QWidget>
 #include <cstdio>
-#include <cstdlib>
 
-/// Ends the process at the first paint; or, when told to, prints its memory in KiB a second later and ends
-/// then.
-class FirstPaint : public QObject {
+/// Runs until a window of the class `type` has been painted, the paint being over, but for no more than two
+/// seconds.
+class FirstPaint : public QEventLoop {
 public:
-    explicit FirstPaint(bool memory) : memory_(memory) {}
+    explicit FirstPaint(const char* type) : type_(type) {
+        qApp->installEventFilter(this);
+        QTimer::singleShot(2000, this, &QEventLoop::quit);
+    }
 
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            if (!memory_) {
-                QTimer::singleShot(0, [] { std::_Exit(0); });
-            } else if (!asked_) {
-                asked_ = true;
-                QTimer::singleShot(1000, &FirstPaint::TellMemory);
-            }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && watched->inherits(type_)) {
+            QMetaObject::invokeMethod(this, &QEventLoop::quit, Qt::QueuedConnection);
         }
         return false;
     }
 
 private:
-    static void TellMemory() {
-        QFile file(QStringLiteral("/proc/self/smaps_rollup"));
-        if (file.open(QIODevice::ReadOnly)) {
-            for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
-                if (line.startsWith("Pss:")) {
-                    std::printf("%s\n", line.mid(4).simplified().split(' ').first().constData());
-                }
-            }
-        }
-        std::fflush(stdout);
-        std::_Exit(0);
-    }
-
-    bool memory_;
-    bool asked_ = false;
+    const char* type_;
 };
+
+/// Prints a line when the first window has been painted, and lets it stand.
+inline int TellPaintAndStay() {
+    FirstPaint("QWidget").exec();
+    std::puts("painted");
+    std::fflush(stdout);
+    return QApplication::exec();
+}

@@ -1,0 +1,196 @@
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QProcess>
+#include <QThread>
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+
+#include "tests/bench/first_paint.h"
+#include "tests/engine/table.h"
+#include "tests/rules/small_worlds.h"
+#include "ui/early_fonts.h"
+#include "ui/frm3.h"
+#include "ui/program.h"
+
+// What the game costs, against its budgets, in one table. By itself it measures; called with "title" or
+// "board" it is the game, with that window on the screen.
+
+namespace vorlund {
+namespace {
+
+void Row(const char* what, double value, const char* unit, double budget) {
+    std::printf("%-58s %9.3f %-3s budget %8.3f  %s\n", what, value, unit, budget,
+                value <= budget ? "met" : "MISSED");
+}
+
+template <class Deed>
+double Milliseconds(Deed deed) {
+    QElapsedTimer clock;
+    clock.start();
+    deed();
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
+
+/// A program with one window, in a process of its own.
+struct Child : QProcess {
+    Child(const QString& program, const QString& window) {
+        ToPaint = Milliseconds([&] {
+            start(program, {window});
+            waitForReadyRead();
+        });
+    }
+    ~Child() override {
+        kill();
+        waitForFinished();
+    }
+
+    std::string Folder() const { return "/proc/" + std::to_string(processId()); }
+
+    double ToPaint = 0;
+};
+
+/// The number behind `key` in a file of words.
+double NumberIn(const std::string& path, const std::string& key) {
+    std::ifstream file(path);
+    double number = std::nan("");  // meets no budget
+    for (std::string word; file >> word && word != key;) {
+    }
+    file >> number;
+    return number;
+}
+
+double Kibibytes(const Child& child) {
+    QThread::sleep(1);
+    return NumberIn(child.Folder() + "/smaps_rollup", "Pss:");
+}
+
+/// How often the threads of the game have gone to sleep, as they do after whatever they woke up for.
+double Sleeps(const Child& child) {
+    double sum = 0;
+    for (const auto& thread : std::filesystem::directory_iterator(child.Folder() + "/task")) {
+        sum += NumberIn(thread.path() / "status", "voluntary_ctxt_switches:");
+    }
+    return sum;
+}
+
+double IdleWakeUps(const QString& window) {
+    const Child child(QApplication::applicationFilePath(), window);
+    QThread::sleep(13);  // the credits are typed, and the music is over
+    const double before = Sleeps(child);
+    QThread::sleep(3);
+    return Sleeps(child) - before;
+}
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// What the game with this window costs, to a bare window: both measured by turns.
+double Ratio(const QString& window, int runs, double (*cost)(const Child&)) {
+    std::vector<double> own;
+    std::vector<double> bare;
+    for (int i = 0; i < runs; ++i) {
+        own.push_back(cost(Child(QApplication::applicationFilePath(), window)));
+        bare.push_back(cost(Child(QStringLiteral(BARE_WINDOW), window)));
+    }
+    std::printf("  (%.1f against %.1f)\n", Median(own), Median(bare));
+    return Median(own) / Median(bare);
+}
+
+/// Leaves the title screen for a full board, with a click that is heard.
+void OpenBoard(Program& program) {
+    program.game() = NewGame(5);
+    for (int t = 0; t < NumTerritories; ++t) {
+        Give(program.game(), t, t % 5, t, t % 4);
+    }
+    program.game().GameLoaded = true;
+    program.sound().PlayWave("BEEP");
+    program.OpenBoard();
+}
+
+/// From the key until the dialog has been painted for the first time.
+double SlowestKey(Program& program) {
+    double slowest = 0;
+    for (const QChar key : QStringLiteral("bsrautv")) {
+        FirstPaint paint("vorlund::CommandDialog");
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, key);
+        slowest = std::max(slowest, Milliseconds([&] {
+                               QApplication::sendEvent(program.screens().board(), &press);
+                               paint.exec();
+                           }));
+        program.screens().CloseDialogs();
+        program.screens().RestoreCommands();
+        QApplication::processEvents();
+    }
+    return slowest;
+}
+
+double SlowestSound(Program& program) {
+    double slowest = 0;
+    for (int i = 0; i < 200; ++i) {
+        slowest = std::max(slowest, Milliseconds([&] { program.sound().PlayWave("GUN"); }));
+    }
+    return slowest;
+}
+
+/// Whole games of four computers, and of a human who only ends the turn: that counts for none, but takes its
+/// time, and so does the recorder that stands in for the screens.
+double MicrosecondsATurn() {
+    GameState start = NewGame(5);
+    for (int p = 0; p < 5; ++p) {
+        Give(start, 8 * p, p, 10);
+        start.PlayerAt(p).IsComputer = p > 0;
+    }
+    Table table(1);
+    table.Game = start;
+    constexpr int Turns = 200'000;
+    const double elapsed = Milliseconds([&] {
+        for (int turns = 0; turns < Turns; turns += table.Game.ComputerTurnEnded ? 1 : 0) {
+            if (table.Game.GameOver) {
+                table.Game = start;
+            }
+            if (!table.Turn.ReportClosed()) {
+                table.Turn.EndTurn();
+            }
+            table.Seen.Calls.clear();
+        }
+    });
+    return elapsed * 1000 / Turns;
+}
+
+void PrintTable(Program& program) {
+    Row("start to the title's first paint, to a bare window's",
+        Ratio("title", 21, [](const Child& child) { return child.ToPaint; }), "x", 1.5);
+    Row("memory with the board up, to a bare window's", Ratio("board", 5, Kibibytes), "x", 2);
+    Row("wake-ups of the idle title, in 3 seconds", IdleWakeUps("title"), "", 0);
+    Row("wake-ups of the idle board, in 3 seconds", IdleWakeUps("board"), "", 0);
+    Row("a computer's turn, rules only, the mean of 200,000", MicrosecondsATurn(), "us", 10);
+    program.Start();
+    OpenBoard(program);
+    FirstPaint("vorlund::Screen").exec();
+    Row("key to the dialog's first paint, the slowest of seven", SlowestKey(program), "ms", 1000.0 / 60);
+    Row("a sound asked for, the slowest of 200", SlowestSound(program), "ms", 1);
+}
+
+}  // namespace
+}  // namespace vorlund
+
+int main(int argc, char** argv) {
+    std::optional<vorlund::EarlyFonts> fonts(std::in_place);
+    const QApplication application(argc, argv);
+    fonts.reset();
+    QApplication::setQuitOnLastWindowClosed(false);
+    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), vorlund::SavedGamesFolder("/none"));
+    if (argc == 1) {
+        vorlund::PrintTable(program);
+        return 0;
+    }
+    program.Start();
+    if (argv[1] == std::string_view("board")) {
+        vorlund::OpenBoard(program);
+    }
+    return TellPaintAndStay();
+}
