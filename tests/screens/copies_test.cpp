@@ -12,12 +12,8 @@ constexpr int Patience = 60000;  // milliseconds; a busy machine may take its ti
 // A copy of the real program, started by the user who has this home.
 struct Copy : QProcess {
     explicit Copy(const QTemporaryDir& home) : lock(home.filePath("vorlund.lock")) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("HOME", home.path());
-        environment.insert("XDG_RUNTIME_DIR", home.path());
-        setProcessEnvironment(environment);
         setProcessChannelMode(MergedChannels);
-        start(VORLUND_PROGRAM, QStringList());
+        start("env", {"HOME=" + home.path(), "XDG_RUNTIME_DIR=" + home.path(), VORLUND_PROGRAM});
     }
 
     bool HoldsTheLock() const {

@@ -18,21 +18,14 @@ namespace {
 
 constexpr std::size_t HalfSecond = 11025;
 
-QByteArray ReadFile(const QString& path) {
+// Samples of 16 bits from byte `start` on, without the silence before them; none if there is no such file.
+std::vector<int> Samples(const QString& path, qint64 start = 0) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// Samples of 16 bits, without the silence before them.
-std::vector<int> Samples(const QByteArray& bytes) {
-    std::vector<int> samples(static_cast<std::size_t>(bytes.size() / 2));
-
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        samples[i] = qFromLittleEndian<qint16>(bytes.constData() + 2 * i);
-    }
-    samples.erase(samples.begin(),
-                  std::find_if(samples.begin(), samples.end(), [](int x) { return x != 0; }));
-    return samples;
+    const QByteArray bytes =
+        file.open(QIODevice::ReadOnly) && file.seek(start) ? file.readAll() : QByteArray();
+    std::vector<qint16> samples(static_cast<std::size_t>(bytes.size() / 2));
+    qFromLittleEndian<qint16>(bytes.constData(), bytes.size() / 2, samples.data());
+    return {std::find_if(samples.begin(), samples.end(), [](int x) { return x != 0; }), samples.end()};
 }
 
 int Loudest(const std::vector<int>& samples) {
@@ -48,12 +41,12 @@ protected:
         qputenv("SDL_DISKAUDIOFILE", output_.toLocal8Bit());
     }
 
-    std::vector<int> Heard() const { return Samples(ReadFile(output_)); }
+    std::vector<int> Heard() const { return Samples(output_); }
 
     // From where it stops being the music from its beginning without a gap.
     std::vector<int> HeardAfterMusic() const {
         const std::vector<int> heard = Heard();
-        const auto music = Samples(ReadFile(":/sound/vrl1.wav").mid(44));
+        const auto music = Samples(":/sound/vrl1.wav", 44);
         return {std::mismatch(heard.begin(), heard.end(), music.begin(), music.end()).first, heard.end()};
     }
 
