@@ -10,12 +10,10 @@ import sys
 import tempfile
 import time
 
-PATIENCE = 15  # seconds
-ESCAPE = 9  # the code of the key
 TURN = "Vorlund - Anna's turn"
 BOARD = ("button Buy (B)|button Sell (S)|button Transport (R)|button Attack (A)|button Upgrade (U)|button Status (T)|"
          "button End Turn (E)|button Save (V)")
-# What the commands of the board lead to, and all that can be done there: role, name, key and description
+# What the commands of the board lead to, all that can be done there (role, name, key and description), and some of it
 DIALOGS = {
     "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):|text Number of Tanks($40):|"
             "text Barrels of Oil($1/3):|button Buy (Enter)"),
@@ -29,8 +27,9 @@ DIALOGS = {
     "Upgrade": ("Vorlund - Upgrade", "button Upgrade (Alt+1): Economy|button Upgrade (Alt+2): Warfare|"
                 "button Upgrade (Alt+3): Nuclear|text Territory #:: Build Factory|button Build Factory (Enter)|"
                 "text Territory #:: Build Defense|button Build Defense (Enter)"),
-    "Status": ("Vorlund - Player 1 status", "button Close (Enter)"),
-    "Save": ("Vorlund - Save Game", "text Enter a name for the saved game:|button Enter (Enter)")}
+    "Status": ("Vorlund - Player 1 status", "button Close (Enter)", "Close"),
+    "Save": ("Vorlund - Save Game", "text Enter a name for the saved game:|button Enter (Enter)",
+             "Enter a name for the saved game:=walk", "Enter")}
 
 
 def start_inside(program):
@@ -61,7 +60,7 @@ class Listener:
                 self.alerts.add(event.source.get_name())
 
     def wait_for(self, what, condition):
-        end = time.monotonic() + PATIENCE
+        end = time.monotonic() + 15
         while time.monotonic() < end:
             while GLib.MainContext.default().iteration(False):
                 pass
@@ -87,7 +86,7 @@ class Listener:
         self.wait_for(story, same)
         for name, _, text in (deed.partition("=") for deed in deeds):
             control = next(n for n in self.nodes(window) if n.get_name() == name and counts(n))
-            is_choice = has(control, "CHECKABLE")
+            is_choice = control.get_role() in (Atspi.Role.RADIO_BUTTON, Atspi.Role.CHECK_BOX)
             assert Atspi.EditableText.set_text_contents(control, text) if text else Atspi.Action.do_action(control, 0)
             self.wait_for(f"the tick at {name!r}", lambda: not is_choice or has(control, "CHECKED"))
 
@@ -135,25 +134,21 @@ def play(game):
     game.at("Vorlund - Territory Select", "text Territory number (1-42):|button Enter (Enter)",
             "Territory number (1-42):=7", "Enter")
     game.report("Upkeep status for Player 1, Anna.")
-    own = "7 Midwest USA: Anna (Player 1), 10 troops, 0 tanks, factory"
-    game.wait_for("own and other territories",
-                  lambda: {n.get_name() for n in game.nodes(TURN) if ": " in n.get_name()} > {own})
+    game.wait_for("own and other territories", lambda: {n.get_name() for n in game.nodes(TURN) if ": " in n.get_name()}
+                  > {"7 Midwest USA: Anna (Player 1), 10 troops, 0 tanks, factory"})
     game.at(TURN, BOARD.replace("(A)", "(A): Nobody attacks in their first turn."), "End Turn")
     game.report("The computer did the following:")
     game.report("Upkeep status for Player 1, Anna.")
-    for command, (title, due) in DIALOGS.items():
+    for command, (title, due, *deeds) in DIALOGS.items():
         game.at(TURN, BOARD, command)
         if command in ("Buy", "Sell"):
-            game.at(title, due, *(f"{field[5:]}={text}" for field, text in zip(due.split("|"), "7100")), command)
+            deeds = [f"{field[5:]}={text}" for field, text in zip(due.split("|"), "7100")] + [command]
+        game.at(title, due, *deeds)
+        if command in ("Buy", "Sell"):
             game.report("Details on current transaction:")
-        elif command == "Save":
-            game.at(title, due, "Enter a name for the saved game:=walk", "Enter")
-            game.at("Vorlund", "image |button OK", "OK")  # the toolkit gives its own sign no name
-        elif command == "Status":
-            game.at(title, due, "Close")
-        else:
-            game.at(title, due)
-            Atspi.generate_keyboard_event(ESCAPE, None, Atspi.KeySynthType.PRESSRELEASE)
+        elif not deeds:
+            Atspi.generate_keyboard_event(9, None, Atspi.KeySynthType.PRESSRELEASE)  # Escape
+    game.at("Vorlund", "image |button OK", "OK")  # the toolkit gives its own sign no name
 
 
 def load(game):
@@ -166,21 +161,15 @@ def load(game):
     game.at(TURN, BOARD)
 
 
-def main():
-    if sys.argv[1] != "--inside":
-        return start_inside(sys.argv[1])
-    Atspi.init()
-    for way in (play, load):
-        game = Listener(sys.argv[2])
-        way(game)
-        game.process.terminate()
-        game.process.wait()
-    print("Played to the second turn, and through every screen.")
-    return 0
-
-
-if __name__ == "__main__":
-    import gi
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi, GLib
-    sys.exit(main())
+if sys.argv[1] != "--inside":
+    sys.exit(start_inside(sys.argv[1]))
+import gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+Atspi.init()
+for way in (play, load):
+    listener = Listener(sys.argv[2])
+    way(listener)
+    listener.process.terminate()
+    listener.process.wait()
+print("Played to the second turn, and through every screen.")
