@@ -131,18 +131,8 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
 }
 
 TEST(Game, FromASavedGameToTheEnd) {
-    GameState game = NewGame(2);
-    Give(game, 6, 0, 10, 2);
-    GiveFactory(game, 6);
-    Give(game, 7, 1, 2);
-    Give(game, 8, 1, 2);
-    game.PlayerAt(0).Money = 1000;
-    game.PlayerAt(0).HasNuke = true;
-    constexpr float hit = 0.2F;
-    constexpr float miss = 0.9F;
-    Sitting sitting(std::make_unique<ScriptedRandom>(std::vector{hit, miss, hit, hit}));
-    sitting.Resume(game);
-
+    Sitting sitting(std::make_unique<ScriptedRandom>("2/12 11/12 2/12 2/12"));
+    sitting.Resume(NewGame(2, "7 Anna 10/2F; 8 Ben 2/0; 9 Ben 2/0; Anna Money 1000 HasNuke 1"));
     Type("r7\t6\t2\n");
     EXPECT_EQ(Text("frmTransport", "lblA"), "Move to Western USA was successful.");
     Type("\t1\n");  // the keyboard has stayed in the field for troops
