@@ -47,11 +47,6 @@ public:
         }
     }
 
-    QStringList keyBindingsForAction(const QString& action) const override {
-        const bool byKey = action == pressAction() && !command_.Key().isEmpty();
-        return byKey ? QStringList(command_.Key()) : QStringList();
-    }
-
 private:
     CommandLabel& command_;
 };
