@@ -140,8 +140,11 @@ std::string BrokenRecords(const GameState& game) {
 }
 
 std::string BrokenCommands(const GameState& game, CommandSet given) {
-    const bool exact = given == CommandSet::None() || given == AvailableCommands(game);
-    return exact ? "" : "not an exact set of commands";
+    const Player& player = game.Current();
+    CommandSet exact = player.IsDead ? CommandSet::Only(Command::EndTurn) : CommandSet::All();
+    exact = player.FirstTurn ? exact.Without(Command::Attack) : exact;
+    const bool over = game.GameOver || game.DeadPlayers == game.NumPlayers;
+    return given == CommandSet::None() || (given == exact && !over) ? "" : "not an exact set of commands";
 }
 
 std::string BrokenSaving(const GameState& game) {

@@ -60,7 +60,8 @@ Route RandomRoute(const GameState& game, Random& hands);
 /// The records agree, and the totals of every living human are the sums over that player's territories.
 std::string BrokenRecords(const GameState& game);
 
-/// `given` are all the commands that the current player may use, or none.
+/// `given` is one of the exact sets: all eight commands with Attack only after the first turn, End Turn alone
+/// for the dead, or none.
 std::string BrokenCommands(const GameState& game, CommandSet given);
 
 /// A living human's game, saved, reads back as it was and gives the same bytes again.

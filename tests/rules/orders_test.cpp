@@ -75,6 +75,7 @@ TEST(Orders, BuildAndUpgrade) {
         {"factory,7|factory,42.5", taken + "a factory.", "", "Anna Money 0"},
         {"factory,8", "You do not have enough money.\rA factory requires $180.", "", "Anna Money 179"},
         {"defense,7", "Defense built in Midwest USA.\r", "7 Anna 10/3FD; Anna Money 0", "Anna Money 100"},
+        {"defense,7", "You do not have enough money.\rDefense requires $100.", "", "Anna Money 99"},
         {"defense,43", "Building defense" + noNumber},
         {"defense,9", taken + "defense."},
         {"upgrade,0", "Level 1 Economy upgrade complete.\r", "Anna EconomyLevel 1 Money 350"},

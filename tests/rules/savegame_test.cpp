@@ -74,13 +74,16 @@ TEST(ReadGame, IsPatientWithFormsAndRefusesABadFileWithItsLine) {
     const std::vector<std::tuple<int, std::string, std::string>> rows{
         {1, " 1 | 6 |" + std::string(MaxSavedGameBytes, ' ') + "2 |",
          "1: NumPlayers of the game must be a whole number from 2 to 5."},
+        {2, " 3 |", "2: AttacksLeft of Player 1 must be a whole number from 0 to 2."},
         {3, "false| FALSE | 0.0 |", ""},
         {3, "Yes|", "3: IsDead of Player 1 must be True or False."},
         {3, "True|2|", "3: Player 1 owns territories and must be alive."},
+        {4, "-1 |", "4: DebtTurns of Player 1 must be a whole number from 0 to 32767."},
         {8, "  -045  |", ""},
         {8, "+12|", "Anna Money 12"},
         {8, "| 32768 |99999999999|2.5|+-5|\t5|5\xD0|",
          "8: Money of Player 1 must be a whole number from -32768 to 32767."},
+        {9, "-1 |", "9: MovesLeft of Player 1 must be a whole number from 0 to 2."},
         {10, " Anna|Anna,Bob| \"Anna\" x|", ""},
         {10, "abcdefghijklm|a\x7F| , 3|",
          "10: Name of Player 1 must be 1 to 12 characters that can be shown."},
@@ -223,6 +226,8 @@ TEST_F(SavedGames, AreTheOldOneOrTheNewOneWhateverCallFails) {
     Meddler slow{0, 0, 1000};
     EXPECT_EQ(Save(slow, Old), std::nullopt);
     EXPECT_EQ(slow.Names, "unwwwscmfsc") << "not the whole new file first, and its new name afterwards";
+    Meddler stuck{0, 0, 0};
+    EXPECT_EQ(Save(stuck, Old), CouldNot("saved", EIO));
     Meddler cannotFlushFolders{8, EINVAL};
     EXPECT_EQ(Save(cannotFlushFolders, Old), std::nullopt);
     GameState game = NewGame(2, Sample);

@@ -4,7 +4,6 @@
 
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include "state/random.h"
 
@@ -15,11 +14,6 @@ namespace vorlund {
 class ScriptedRandom final : public Random {
 public:
     explicit ScriptedRandom(const std::string& script) : script_(script) {}
-    explicit ScriptedRandom(const std::vector<float>& values) {
-        for (const float value : values) {
-            script_ << value - 0.5F << "/1 ";
-        }
-    }
     ~ScriptedRandom() override {
         std::string left;
         EXPECT_FALSE(script_ >> left) << "not asked for: " << left;

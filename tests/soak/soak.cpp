@@ -7,6 +7,7 @@
 #include "actions/strike.h"
 #include "actions/transport.h"
 #include "actions/upgrade.h"
+#include "savegame/format.h"
 #include "tests/engine/games.h"
 #include "turn/victory.h"
 
@@ -91,6 +92,9 @@ private:
             Settle((OneIn(2, mind_) ? Fact : Def)(Game, route.From));
         } else if (*dialog_ == Command::Upgrade) {
             Settle(RaiseLevel(Game, static_cast<Track>(mind_.Draw(3))));
+        } else if (*dialog_ == Command::Save) {
+            ordered_ = true;
+            Game = std::get<GameState>(ReadGame(FreshGame(), WriteGame(Game)));
         }
     }
 
@@ -121,14 +125,17 @@ int main() {
     const char* const gamesGiven = std::getenv("VORLUND_GAMES");
     const int first = seedGiven != nullptr ? std::atoi(seedGiven) : 1;
     const int games = gamesGiven != nullptr ? std::atoi(gamesGiven) : 2000;
+    int turns = 0;
     for (int seed = first; seed < first + games; ++seed) {
         vorlund::Hands hands(static_cast<std::uint32_t>(seed));
         for (int step = 0; step < 1500; ++step) {
+            const int player = hands.Game.CurrentPlayer;
             if (const std::string broken = hands.Step(); !broken.empty()) {
                 std::printf("BROKEN: %s in step %d with VORLUND_SEED=%d\n", broken.c_str(), step, seed);
                 return 1;
             }
+            turns += player != hands.Game.CurrentPlayer ? 1 : 0;
         }
     }
-    std::printf("%d games\n", games);
+    std::printf("%d games, %d turns\n", games, turns);
 }
