@@ -8,7 +8,7 @@
 #include <fstream>
 
 #include "tests/bench/first_paint.h"
-#include "tests/engine/table.h"
+#include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
 #include "ui/early_fonts.h"
 #include "ui/frm3.h"
@@ -25,12 +25,17 @@ void Row(const char* what, double value, const char* unit, double budget) {
                 value <= budget ? "met" : "MISSED");
 }
 
+/// In milliseconds.
+double Elapsed(const QElapsedTimer& clock) {
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
+
 template <class Deed>
 double Milliseconds(Deed deed) {
     QElapsedTimer clock;
     clock.start();
     deed();
-    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    return Elapsed(clock);
 }
 
 /// A program with one window, in a process of its own.
@@ -115,12 +120,12 @@ void OpenBoard(Program& program) {
 double SlowestKey(Program& program) {
     double slowest = 0;
     for (const QChar key : QStringLiteral("bsrautv")) {
-        FirstPaint paint("vorlund::CommandDialog");
+        QElapsedTimer clock;
+        FirstPaint paint("vorlund::CommandDialog", [&] { slowest = std::max(slowest, Elapsed(clock)); });
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, key);
-        slowest = std::max(slowest, Milliseconds([&] {
-                               QApplication::sendEvent(program.screens().board(), &press);
-                               paint.exec();
-                           }));
+        clock.start();
+        QApplication::sendEvent(program.screens().board(), &press);
+        paint.exec();
         program.screens().CloseDialogs();
         program.screens().RestoreCommands();
         QApplication::processEvents();
