@@ -37,8 +37,11 @@ QFont FontOf(Face face) {
             return Make(sans, 12, true);
         case Face::Heading:
             return Make(serif, 13, true);
-        case Face::Command:
-            return Make(sans, 17, true, true);
+        case Face::Command: {
+            QFont font = Make(sans, 17, true, true);
+            font.setStyleStrategy(QFont::NoFontMerging);  // plain letters: none is looked for in other fonts
+            return font;
+        }
         case Face::Field:
             return Make(field, 11, true);
         case Face::Count:
