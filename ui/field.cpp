@@ -11,7 +11,6 @@ Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int
     setObjectName(objectName);
     setGeometry(frame);
     setMaxLength(maxLength);
-    setFont(FontOf(Face::Field));
     setTextMargins(-1, 0, -1, 0);
     QPalette colours = palette();
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {

@@ -18,7 +18,6 @@ frmLoad::frmLoad(Program& program)
     flb1_ = new QListWidget(this);
     flb1_->setObjectName(QStringLiteral("flb1"));
     flb1_->setGeometry(QRect(16, 40, 180, 204));
-    flb1_->setFont(FontOf(Face::Field));
     flb1_->setUniformItemSizes(true);
     flb1_->viewport()->installEventFilter(this);
     flb1_->setAccessibleName(lbl2->text());

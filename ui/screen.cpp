@@ -28,7 +28,14 @@ Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize 
     setMouseTracking(true);
     QPalette black = palette();
     black.setColor(QPalette::Window, colour::Window);
+    // The toolkit paints a window anew when it comes to the front or leaves it, unless its colours are the
+    // same.
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+        const auto colour = static_cast<QPalette::ColorRole>(role);
+        black.setBrush(QPalette::Inactive, colour, black.brush(QPalette::Active, colour));
+    }
     setPalette(black);
+    setFont(FontOf(Face::Field));  // of what is typed into and chosen from: it is made with its window's font
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
         for (const QWidget* changed : {before, now}) {
             if (changed != nullptr && changed->parentWidget() == this) {
