@@ -12,9 +12,11 @@
 namespace vorlund {
 namespace {
 
-constexpr std::array Names{"Anna",       "comp",   "COMPUTER", "Computer", "a,b",  " blank in",
-                           "Zo\xC3\xAB", "\"q\"",  "",         "1",        "True", "\xE2\x82\xAC uro",
-                           "\xD0\x96uk", "tab\tb", "0",        "-1",       "x",    "CompPlayer1"};
+constexpr std::array Names{
+    "Anna",  "comp",      "COMPUTER", "Zo\u00EB", "a,b",      " lead",      "trail ",      "\"",
+    "\"q\"", "q\"q",      "",         "1",        "True",     "-1",         "CompPlayer1", "..",
+    "../x",  "a/b",       "CON",      "%1%2%s",   "<b>x",     "&amp;&&",    "x\ny",        "\r",
+    "\tx",   "\u202Eabc", "\u20AC5",  "\u0416uk", "e\u0301e", "\U0001F680", "MMMMMMMMMMMM"};
 
 constexpr std::array Nasty{"",     " ",   "abc", "0",    "-1",    "-0.4",  ".5",     "1.5", "2.5",  "41.5",
                            "42.5", "43",  "4e4", "-9e9", "32767", "32768", "-32768", "1e3", "1e-9", "1e999",

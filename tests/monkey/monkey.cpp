@@ -13,11 +13,6 @@ namespace {
 
 constexpr std::clock_t LongestEvent = 2 * CLOCKS_PER_SEC;  // of this program alone, on a busy machine too
 
-const std::array<QString, 24> NastyNames{
-    "Computer", "comp",      "a,b",     "\"",     "\"q\"",    "q\"q", " lead",      "trail ",
-    "..",       "../x",      "a/b",     "CON",    "%1%2%s",   "<b>x", "&amp;&&",    "x\ny",
-    "\r",       "\u202Eabc", "\u20AC5", "\u0416", "e\u0301e", "\tx",  "\U0001F680", QString(300, u'M')};
-
 const QString Keys = QStringLiteral(
     "B,S,R,A,U,T,E,V,E,E,Return,Return,Enter,Escape,Tab,Shift+Tab,Space,Delete,Backspace,Up,Down,PgDown,Home,"
     "Ctrl+V,Menu,F1,Alt+F4,Alt+1,Alt+3,Ctrl+Z,Ctrl+V,Shift+T,\u00DF");
@@ -174,7 +169,7 @@ private:
 
     QString Entry(const QString& field, const Route& route) {
         if (field == QLatin1String("txtSave") || field.startsWith(QLatin1String("txtN("))) {
-            return OneIn(4, mind_) ? Any(NastyNames, mind_) : QString::fromStdString(NameEntry(mind_));
+            return QString::fromStdString(NameEntry(mind_));
         }
         return QString::fromStdString(field == QLatin1String("txtTroops") ? QuantityEntry(route.Troops, mind_)
                                       : field == QLatin1String("txtTanks") ? QuantityEntry(route.Tanks, mind_)

@@ -158,12 +158,14 @@ TEST(Crossings, KeysRightBehindAClosingAndAheadOfAnAnswer) {
 TEST(Crossings, HeldKeysDoNothing) {
     const auto hold = [] {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
-            Hold(key);
+            QKeyEvent again(QEvent::KeyPress, key, {}, {}, true);
+            QApplication::sendEvent(QGuiApplication::focusWindow(), &again);
         }
     };
     Sitting sitting;
     sitting.Resume(Neighbours);
-    Hold(Qt::Key_B, "b");
+    QKeyEvent heldLetter(QEvent::KeyPress, Qt::Key_B, {}, "b", true);
+    QApplication::sendEvent(&Window("frm3"), &heldLetter);
     EXPECT_EQ(Desktop(), AnnasTurn);
     Type("b");
     hold();

@@ -214,14 +214,6 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QCoreApplication::processEvents();
 }
 
-void Hold(Qt::Key key, const QString& text) {
-    for (int i = 0; i < 3; ++i) {
-        QKeyEvent again(QEvent::KeyPress, key, {}, text, true);
-        QCoreApplication::sendEvent(&Keyboard(), &again);
-    }
-    QCoreApplication::processEvents();
-}
-
 void Type(const QString& keys) {
     static const QMap<QChar, Qt::Key> named{
         {'\n', Qt::Key_Return}, {'\t', Qt::Key_Tab}, {'\033', Qt::Key_Escape}};

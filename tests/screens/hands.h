@@ -89,7 +89,6 @@ int Beeps();
 // What hands can do. Keys go to the window in front, which must have the keyboard.
 
 void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-void Hold(Qt::Key key, const QString& text = {});  ///< what a key that stays down sends
 void Type(const QString& keys);                    ///< "\n" is Enter, "\t" the Tab key, "\033" Escape
 void Click(const QString& window, QPoint place);
 void Click(const QString& window, const QString& control);
