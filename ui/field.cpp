@@ -2,8 +2,6 @@
 
 #include <QKeyEvent>
 
-#include "ui/look.h"
-
 namespace vorlund {
 
 Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength)

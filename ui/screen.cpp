@@ -28,8 +28,7 @@ Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize 
     setMouseTracking(true);
     QPalette black = palette();
     black.setColor(QPalette::Window, colour::Window);
-    // The toolkit paints a window anew when it comes to the front or leaves it, unless its colours are the
-    // same.
+    // If its colours differ then, the toolkit paints a window anew when it comes to the front or leaves it.
     for (int role = 0; role < QPalette::NColorRoles; ++role) {
         const auto colour = static_cast<QPalette::ColorRole>(role);
         black.setBrush(QPalette::Inactive, colour, black.brush(QPalette::Active, colour));
