@@ -89,7 +89,7 @@ int Beeps();
 // What hands can do. Keys go to the window in front, which must have the keyboard.
 
 void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-void Type(const QString& keys);                    ///< "\n" is Enter, "\t" the Tab key, "\033" Escape
+void Type(const QString& keys);  ///< "\n" is Enter, "\t" the Tab key, "\033" Escape
 void Click(const QString& window, QPoint place);
 void Click(const QString& window, const QString& control);
 void Fill(const QString& window, const QString& field, const QString& text);
