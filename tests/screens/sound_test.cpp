@@ -23,8 +23,10 @@ std::vector<int> Samples(const QString& path, qint64 start = 0) {
     QFile file(path);
     const QByteArray bytes =
         file.open(QIODevice::ReadOnly) && file.seek(start) ? file.readAll() : QByteArray();
-    std::vector<qint16> samples(static_cast<std::size_t>(bytes.size() / 2));
-    qFromLittleEndian<qint16>(bytes.constData(), bytes.size() / 2, samples.data());
+    std::vector<int> samples;
+    for (qsizetype i = 0; i + 1 < bytes.size(); i += 2) {
+        samples.push_back(qFromLittleEndian<qint16>(bytes.constData() + i));
+    }
     return {std::find_if(samples.begin(), samples.end(), [](int x) { return x != 0; }), samples.end()};
 }
 
