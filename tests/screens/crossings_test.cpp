@@ -138,7 +138,7 @@ TEST(Crossings, NothingClosesWhileAWinnerIsAnnounced) {
     EXPECT_EQ(Desktop(), "Vorlund - Ben wins []");
 }
 
-TEST(Crossings, KeysRightBehindAClosingAndAheadOfAnAnswer) {
+TEST(Crossings, HandsQuickerThanAClosing) {
     Sitting sitting;
     sitting.Resume(Neighbours);
     Type("b");
@@ -153,6 +153,10 @@ TEST(Crossings, KeysRightBehindAClosingAndAheadOfAnAnswer) {
                     }});
     Click("frmBuy", "lblGo");
     EXPECT_EQ(Desktop(), Waiting + "Vorlund - Buy");
+    Type("7\t1");
+    QTest::mouseDClick(Window("frmBuy").windowHandle(), Qt::LeftButton, {},
+                       Control("frmBuy", "lblGo").geometry().center());
+    EXPECT_EQ(sitting.Game().PlayerAt(0).Money, 990);  // one troop, not two
 }
 
 TEST(Crossings, HeldKeysDoNothing) {
