@@ -26,13 +26,15 @@ TEST(Orders, Buy) {
          "7 Anna 12/5F; Anna Money 397 Oil 19 Tanks 5 Troops 17"},
         {"buy,none,,,1500", title + "You bought 1500 oil barrels for $500.\r\r        Total spent: $500",
          "Anna Money 0 Oil 1510"},
+        // Fractions are cut off, and what is negative is left out.
         {"buy,7.4,-3,2.9,2.9", title + "You bought 2 Tanks for $80 in Midwest USA.\r        Total spent: $80",
          "7 Anna 10/5F; Anna Money 420 Tanks 5"},
         {"buy|buy,7,0.5|buy,8,5,,x|buy,x,5|buy,7,4e4|buy,7,,820", NoTransaction},
         {"buy,8,,-0.5|buy,9,,1", "To buy Tanks the territory must have a factory and be owned by you."},
         {"buy,,-3|buy,.5,5,5|buy,43,5", "To buy Troops" + OutOfRange},
-        {"buy,7,,819", tooDear + "32260" + more},  // just within 16 bits
-        {"buy,,,,5003", tooDear + "1" + more, "", "Anna Money 1667"},
+        {"buy,7,,819", tooDear + "32260" + more},                      // just within 16 bits
+        {"buy,,,,5003", tooDear + "1" + more, "", "Anna Money 1667"},  // much oil is a dollar too dear
+        // There is no room in the total, in the territory, in the treasury.
         {"buy,7,1,1,3", NoTransaction, "", "Anna Troops 32767"},
         {"buy,7,1,1,3", NoTransaction, "", "7 Anna 1/32767F; Anna Tanks 0"},
         {"buy,7,1,1,3", NoTransaction, "", "Anna Oil 32765"},
@@ -60,7 +62,7 @@ TEST(Orders, Sell) {
         {"sell,7,11", "You cannot sell more Troops than you have in a territory."},
         {"sell,7,1,4,99", "You cannot sell more Tanks than you have in a territory."},
         {"sell,,,,11", "You cannot sell more oil barrels than you have."},  // although 9 would be sold
-        {"sell,7,4,,3", NoTransaction, "", "Anna Money 32740"},
+        {"sell,7,4,,3", NoTransaction, "", "Anna Money 32740"},             // no room for the money
     });
     Play alone(2, "7 Anna 10/0F; Ben IsDead 1", "");
     alone.Then("sell,7,10", "(nobody is left)", "7 nobody 0/0; Anna Factories 0 IsDead 1 Money 70 Troops 0");
@@ -81,7 +83,7 @@ TEST(Orders, BuildAndUpgrade) {
         {"upgrade,0", "Level 1 Economy upgrade complete.\r", "Anna EconomyLevel 1 Money 350"},
         {"upgrade,2", "Level 1 Nuclear upgrade complete.\r", "Anna Money 0 NuclearLevel 1", "Anna Money 100"},
         {"upgrade,1", "You do not have enough money for this upgrade.", "", "Anna WarfareLevel 2"},
-        {"upgrade,2", "(nothing)", "", "Anna NuclearLevel 3"},
+        {"upgrade,2", "(nothing)", "", "Anna NuclearLevel 3"},  // there is no level 4
     });
 }
 
@@ -109,7 +111,7 @@ TEST(Orders, Transport) {
         {"move,7,6,-1,3.6", "You cannot move more tanks than you have."},
         {"move,7,6,-0.5,-1", "You cannot move negative troops."},
         {"move,7,6,1,-1", "You cannot move negative tanks."},
-        {"move,7,8,3", invalid, "", "8 Anna 32765/0"},
+        {"move,7,8,3", invalid, "", "8 Anna 32765/0"},  // no room for them
         {"move,7,8,,1", invalid, "", "8 Anna 0/32767"},
     });
 }

@@ -131,6 +131,7 @@ void ExpectLegible(const QString& name) {
         } else if (field != nullptr) {
             const int digits = field->fontMetrics().horizontalAdvance(QString(field->maxLength(), '8'));
             EXPECT_TRUE(field->maxLength() > 3 || digits <= field->width() - 8) << "digits are cut off";
+            EXPECT_EQ(field->font().pixelSize(), FontOf(Face::Field).pixelSize());
         } else if (!isMarker) {
             continue;
         }
