@@ -1,16 +1,16 @@
 #include "ui/game_screens.h"
 
-#include "ui/frm3.h"
-#include "ui/frmAttack.h"
-#include "ui/frmBuy.h"
-#include "ui/frmReport.h"
-#include "ui/frmSave.h"
-#include "ui/frmSell.h"
-#include "ui/frmStatus.h"
-#include "ui/frmTransport.h"
-#include "ui/frmUpgrade.h"
-#include "ui/message_box.h"
+#include "ui/parts/message_box.h"
 #include "ui/program.h"
+#include "ui/windows/frm3.h"
+#include "ui/windows/frmAttack.h"
+#include "ui/windows/frmBuy.h"
+#include "ui/windows/frmReport.h"
+#include "ui/windows/frmSave.h"
+#include "ui/windows/frmSell.h"
+#include "ui/windows/frmStatus.h"
+#include "ui/windows/frmTransport.h"
+#include "ui/windows/frmUpgrade.h"
 
 namespace vorlund {
 

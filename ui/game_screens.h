@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "turn/screens.h"
-#include "ui/command_dialog.h"
+#include "ui/windows/command_dialog.h"
 
 namespace vorlund {
 

@@ -3,11 +3,11 @@
 #include <array>
 #include <optional>
 
-#include "ui/accessible.h"
-#include "ui/early_fonts.h"
-#include "ui/held_keys.h"
+#include "ui/machine/early_fonts.h"
+#include "ui/machine/single_copy.h"
+#include "ui/parts/accessible.h"
+#include "ui/parts/held_keys.h"
 #include "ui/program.h"
-#include "ui/single_copy.h"
 
 int main(int, char** arguments) {
     // The game has no command line, so the toolkit gets none either.

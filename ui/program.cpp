@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "computer/computer_turn.h"
-#include "ui/frm2.h"
-#include "ui/frmLoad.h"
+#include "ui/windows/frm2.h"
+#include "ui/windows/frmLoad.h"
 
 namespace vorlund {
 

@@ -6,9 +6,9 @@
 #include "state/game_state.h"
 #include "state/random.h"
 #include "turn/turn_cycle.h"
-#include "ui/frm1.h"
 #include "ui/game_screens.h"
-#include "ui/sound.h"
+#include "ui/machine/sound.h"
+#include "ui/windows/frm1.h"
 
 namespace vorlund {
 

@@ -10,9 +10,9 @@
 #include "tests/bench/first_paint.h"
 #include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
-#include "ui/early_fonts.h"
-#include "ui/frm3.h"
+#include "ui/machine/early_fonts.h"
 #include "ui/program.h"
+#include "ui/windows/frm3.h"
 
 // What the game costs, against its budgets, in one table. By itself it measures; called with "title" or
 // "board" it is the game, with that window on the screen.

@@ -4,9 +4,9 @@
 
 #include "tests/engine/games.h"
 #include "tests/engine/seeded_random.h"
-#include "ui/frm3.h"
-#include "ui/held_keys.h"
+#include "ui/parts/held_keys.h"
 #include "ui/program.h"
+#include "ui/windows/frm3.h"
 
 namespace vorlund {
 namespace {

@@ -8,7 +8,7 @@
 #include <functional>
 #include <memory>
 
-#include "ui/held_keys.h"
+#include "ui/parts/held_keys.h"
 #include "ui/program.h"
 
 /// How a text is printed when it is not the one that was due.

@@ -1,4 +1,4 @@
-#include "ui/sound.h"
+#include "ui/machine/sound.h"
 
 #include <fcntl.h>
 #include <poll.h>

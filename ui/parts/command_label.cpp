@@ -1,0 +1,163 @@
+#include "ui/parts/command_label.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ui/parts/look.h"
+
+namespace vorlund {
+namespace {
+
+const QColor LightPlate(255, 251, 232);
+const QColor LightRim(190, 168, 112);
+const QColor DarkPlate(10, 14, 40);
+const QColor DisabledPlate(70, 76, 92);
+const QColor DisabledInk(150, 156, 170);
+constexpr qreal CornerRadius = 4;
+constexpr int MarkWidth = 16;  // the ring of a choice, left of its text
+
+}  // namespace
+
+CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QString& caption,
+                           const QRect& box)
+    : QAbstractButton(parent) {
+    setObjectName(objectName);
+    setText(caption);
+    setGeometry(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    // The plate has room for a little more than the box: letters are left as they are if they fit there.
+    setFont(Fitted(FontOf(Face::Command), caption, box.width() + PlateX));
+}
+
+void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
+    setEnabled(available);
+    setToolTip(available ? KeyTip() : whyNot);
+}
+
+void CommandLabel::SetKey(const QString& key) {
+    key_ = key;
+    setToolTip(KeyTip());
+}
+
+QString CommandLabel::KeyTip() const {
+    return key_.isEmpty() ? QString() : QStringLiteral("Key: ") + key_;
+}
+
+void CommandLabel::Rest() {
+    Become(State::Rest);
+}
+
+void CommandLabel::Become(State state) {
+    if (state_ != state) {
+        state_ = state;
+        update();
+    }
+}
+
+void CommandLabel::PaintPlate(QPainter& painter) const {
+    const QRectF plate = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (!isEnabled()) {
+        painter.setPen(DisabledPlate);
+        painter.setBrush(QColor(18, 22, 34));
+    } else if (state_ == State::Rest) {
+        painter.setPen(LightRim);
+        painter.setBrush(LightPlate);
+    } else {
+        painter.setPen(QColor(state_ == State::Hover ? colour::Hover : colour::Pressed));
+        painter.setBrush(DarkPlate);
+    }
+    painter.drawRoundedRect(plate, CornerRadius, CornerRadius);
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(colour::Focus), 1.3));
+        // At the very edge, where no letter reaches: amber is no ground for light blue.
+        painter.drawRoundedRect(plate.adjusted(0.1, 0.1, -0.1, -0.1), CornerRadius, CornerRadius);
+    }
+}
+
+void CommandLabel::PaintMark(QPainter& painter, const QColor& ink) const {
+    const QPointF middle(PlateX + MarkWidth / 2.0, height() / 2.0);
+    painter.setPen(QPen(ink, 1.4));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(middle, 5, 5);
+    if (isChecked()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawEllipse(middle, 2.6, 2.6);
+    }
+}
+
+void CommandLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintPlate(painter);
+    QColor ink = DisabledInk;
+    if (isEnabled()) {
+        ink = state_ == State::Rest ? colour::Rest : state_ == State::Hover ? colour::Hover : colour::Pressed;
+    }
+    QRect box = rect().adjusted(PlateX, PlateY, -PlateX, -PlateY);
+    if (isCheckable()) {
+        PaintMark(painter, ink);
+        box.setLeft(box.left() + MarkWidth);
+    }
+    painter.setFont(font());
+    painter.setPen(ink);
+    painter.drawText(box, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, text());
+}
+
+bool CommandLabel::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        // At once: the toolkit's own click comes a tenth of a second later, whatever has opened or closed
+        // since.
+        click();
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
+void CommandLabel::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    if (isEnabled()) {
+        Become(State::Hover);
+        emit Lit();
+    }
+}
+
+void CommandLabel::mouseMoveEvent(QMouseEvent* event) {
+    QAbstractButton::mouseMoveEvent(event);
+    if (isEnabled()) {
+        Become(State::Hover);
+        emit Lit();
+    }
+    event->accept();
+}
+
+void CommandLabel::mousePressEvent(QMouseEvent* event) {
+    QAbstractButton::mousePressEvent(event);
+    if (isEnabled()) {
+        Become(State::Pressed);
+    }
+    event->accept();
+}
+
+void CommandLabel::keyPressEvent(QKeyEvent* event) {
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !isCheckable()) {
+        if (!event->isAutoRepeat()) {
+            click();
+        }
+        return;
+    }
+    QAbstractButton::keyPressEvent(event);
+}
+
+void CommandLabel::changeEvent(QEvent* event) {
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) {
+        state_ = State::Rest;
+        update();
+    }
+}
+
+}  // namespace vorlund

@@ -1,0 +1,44 @@
+#include "ui/parts/computer_toggle.h"
+
+#include <QPainter>
+
+#include "ui/parts/look.h"
+
+namespace vorlund {
+
+ComputerToggle::ComputerToggle(QWidget* parent, const QString& objectName, const QRect& frame)
+    : QAbstractButton(parent) {
+    setObjectName(objectName);
+    setGeometry(frame);
+    setCheckable(true);
+}
+
+void ComputerToggle::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = isChecked()    ? QColor(10, 14, 40)
+                       : underMouse() ? QColor(colour::Hover)
+                                      : QColor(150, 160, 190);
+    painter.setPen(QPen(hasFocus() ? QColor(colour::Focus) : QColor(120, 130, 160), 1.4));
+    painter.setBrush(isChecked() ? QColor(120, 220, 120) : QColor(14, 18, 34));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+    // A screen on a foot over a keyboard
+    const qreal unit = width() / 20.0;
+    painter.setPen(QPen(ink, 1.5 * unit));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(5 * unit, 4 * unit, 10 * unit, 7 * unit));
+    painter.drawLine(QPointF(10 * unit, 11 * unit), QPointF(10 * unit, 13.5 * unit));
+    painter.drawLine(QPointF(4.5 * unit, 15 * unit), QPointF(15.5 * unit, 15 * unit));
+}
+
+void ComputerToggle::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void ComputerToggle::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,50 @@
+#include "ui/parts/field.h"
+
+#include <QKeyEvent>
+
+namespace vorlund {
+
+Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength)
+    : QLineEdit(parent) {
+    setObjectName(objectName);
+    setGeometry(frame);
+    setMaxLength(maxLength);
+    setTextMargins(-1, 0, -1, 0);
+    QPalette colours = palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        colours.setColor(group, QPalette::Base,
+                         group == QPalette::Disabled ? QColor(190, 194, 204) : Qt::white);
+        colours.setColor(group, QPalette::Text, Qt::black);
+    }
+    setPalette(colours);
+}
+
+void Field::TakeTerritories(Field* next) {
+    takesTerritories_ = true;
+    next_ = next;
+}
+
+void Field::TypeTerritory(int number) {
+    setText(QString::number(number));
+    window()->activateWindow();
+    (next_ != nullptr ? next_ : this)->setFocus();
+}
+
+void Field::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (takesTerritories_) {
+        emit TerritoryWanted();
+    }
+}
+
+void Field::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (!event->isAutoRepeat()) {
+            emit Entered();
+        }
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+}  // namespace vorlund

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <string_view>
+
+#include "ui/parts/look.h"
+
+namespace vorlund {
+
+/// A piece of text on a screen: a caption, a status line, a heading. It is plain text always, takes no mouse,
+/// and makes its letters smaller rather than cut them off.
+class TextLabel : public QLabel {
+public:
+    TextLabel(QWidget* parent, const QString& objectName, Face face, const QRect& frame);
+
+    /// Shows a text of the rules; carriage returns end its lines.
+    void Show(std::string_view text);
+
+private:
+    Face face_;
+};
+
+/// The count of troops and tanks on the map, with a thin dark rim so that it can be read on every ground.
+class CountLabel : public TextLabel {
+public:
+    CountLabel(QWidget* parent, const QString& objectName, const QRect& frame);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace vorlund

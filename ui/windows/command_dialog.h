@@ -1,0 +1,40 @@
+#pragma once
+
+#include <initializer_list>
+
+#include "actions/outcome.h"
+#include "turn/report.h"
+#include "ui/parts/screen.h"
+
+namespace vorlund {
+
+class Program;
+
+/// A dialog that a command of the board opens, in front of the board and without blocking it. Escape closes
+/// it, and however it closes, it gives the board its commands back.
+class CommandDialog : public Screen {
+    Q_OBJECT
+
+public:
+    CommandDialog(Program& program, const QString& name, const QString& title, QSize size);
+
+protected:
+    Program& program() const { return program_; }
+
+    // What the outcome of an action looks like: a beep, a message box over the dialog that stays as it is, or
+    // the report of what was done, behind which the dialog closes.
+    void Settle(const Beep& beep);
+    void Settle(const Refusal& refusal);
+    void Settle(const Report& report);
+
+    /// Lets a click on the map type into these fields for territories, which belong to one command.
+    void TakeTerritories(std::initializer_list<Field*> fields);
+
+    bool CloseRequested() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Program& program_;
+};
+
+}  // namespace vorlund

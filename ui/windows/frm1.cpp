@@ -1,0 +1,121 @@
+#include "ui/windows/frm1.h"
+
+#include <QMouseEvent>
+#include <QWindow>
+#include <string_view>
+
+#include "state/world.h"
+#include "ui/program.h"
+
+namespace vorlund {
+namespace {
+
+constexpr std::array<std::string_view, 3> Credits{"Vorlund, a world war.", "For two to five rulers.",
+                                                  "Made by the Vorlund team."};
+static_assert(Credits[0].size() == 21 && Credits[1].size() == 23 && Credits[2].size() == 25);
+
+constexpr int MusicDelay = 100;     // milliseconds, twice
+constexpr int TypingInterval = 40;  // milliseconds a character
+
+}  // namespace
+
+frm1::frm1(Program& program)
+    : Screen(nullptr, QStringLiteral("frm1"), QStringLiteral("Vorlund"), QSize(400, 223), {},
+             Qt::Window | Qt::FramelessWindowHint),
+      program_(program),
+      earth_(QStringLiteral("earth"), QStringLiteral("The earth")) {
+    auto* imgEarth = new PictureLabel(this, QStringLiteral("imgEarth"), QRect(96, 16, 208, 100));
+    imgEarth->Show(&earth_);
+    for (int line = 0; line < 3; ++line) {
+        TextLabel* label = AddText(QStringLiteral("lbl%1").arg(line + 1), Face::Caption,
+                                   QRect(16, 128 + 24 * line, 185, 25));
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        QPalette green = label->palette();
+        green.setColor(QPalette::WindowText, QColor(colour::Heading));
+        label->setPalette(green);
+        credits_[static_cast<std::size_t>(line)] = label;
+    }
+    AddCommands();
+    LightOneAtATime();
+
+    program_.game().GameOver = false;
+    program_.game().ComputerTurnEnded = false;
+    InitWorld(program_.game());
+    StartTimers();
+}
+
+void frm1::AddCommands() {
+    const auto add = [this](const char* name, const QString& caption, const QRect& box,
+                            void (Program::*run)()) {
+        CommandLabel* command = AddCommand(QString::fromLatin1(name), caption, box);
+        command->setFocusPolicy(Qt::TabFocus);
+        connect(command, &CommandLabel::clicked, this, [this, run] {
+            program_.sound().PlayWave("BEEP");
+            (program_.*run)();
+        });
+    };
+    add("lblPlay", QStringLiteral("Play Game"), QRect(248, 128, 85, 19), &Program::PlayGame);
+    add("lblLoad", QStringLiteral("Load Game"), QRect(246, 152, 89, 19), &Program::LoadGame);
+    add("lblExit", QStringLiteral("Exit"), QRect(275, 176, 31, 19), &Program::End);
+}
+
+void frm1::StartTimers() {
+    tmr1_.setInterval(MusicDelay);
+    tmr2_.setInterval(MusicDelay);
+    tmr3_.setInterval(TypingInterval);
+    connect(&tmr1_, &QTimer::timeout, this, [this] {
+        tmr2_.start();
+        tmr1_.stop();
+    });
+    connect(&tmr2_, &QTimer::timeout, this, [this] {
+        program_.sound().PlayWave("VRL1");
+        tmr2_.stop();
+    });
+    connect(&tmr3_, &QTimer::timeout, this, &frm1::TypeCredit);
+    tmr1_.start();
+    tmr3_.start();
+}
+
+void frm1::TypeCredit() {
+    auto typed = static_cast<std::size_t>(CreditTicks_);
+    for (std::size_t line = 0; line < Credits.size(); ++line) {
+        if (typed < Credits[line].size()) {
+            ++CreditTicks_;
+            credits_[line]->Show(Credits[line].substr(0, typed + 1));
+            return;
+        }
+        typed -= Credits[line].size();
+    }
+    tmr3_.stop();
+}
+
+void frm1::Leave() {
+    for (QTimer* timer : {&tmr1_, &tmr2_, &tmr3_}) {
+        timer->stop();
+    }
+    CloseOutright();
+}
+
+bool frm1::CloseRequested() {
+    program_.End();
+    return true;
+}
+
+void frm1::mousePressEvent(QMouseEvent* event) {
+    // Where the desktop does not offer to move the window, it follows the pointer by its own steps.
+    grip_ = event->globalPosition().toPoint() - pos();
+    dragging_ = windowHandle() == nullptr || !windowHandle()->startSystemMove();
+}
+
+void frm1::mouseMoveEvent(QMouseEvent* event) {
+    if (dragging_ && event->buttons() != Qt::NoButton) {
+        move(event->globalPosition().toPoint() - grip_);
+    }
+    Screen::mouseMoveEvent(event);
+}
+
+void frm1::mouseReleaseEvent(QMouseEvent*) {
+    dragging_ = false;
+}
+
+}  // namespace vorlund

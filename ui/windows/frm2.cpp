@@ -1,0 +1,140 @@
+#include "ui/windows/frm2.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <string>
+#include <vector>
+
+#include "savegame/format.h"
+#include "setup/new_game.h"
+#include "ui/parts/message_box.h"
+#include "ui/program.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int FirstRowY = 54;
+constexpr int RowHeight = 30;
+constexpr int FewestPlayers = 2;
+
+}  // namespace
+
+frm2::frm2(Program& program)
+    : Screen(nullptr, QStringLiteral("frm2"), QStringLiteral("Vorlund - New Game"), QSize(400, 250)),
+      program_(program) {
+    lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 360, 22));
+    lbl1_->Show("Select the number of players for the game:");
+    AddChoices();
+    for (int row = 0; row < MaxPlayers; ++row) {
+        AddRow(row);
+    }
+    CommandLabel* lblCont =
+        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue >"), QRect(278, 216, 98, 19));
+    lblCont->setFocusPolicy(Qt::TabFocus);
+    lblCont->SetKey(QStringLiteral("Enter"));
+    connect(lblCont, &CommandLabel::clicked, this, &frm2::Cont);
+    LightOneAtATime();
+}
+
+void frm2::AddChoices() {
+    for (int i = 0; i < 4; ++i) {
+        const int players = i + FewestPlayers;
+        CommandLabel* choice =
+            AddCommand(QStringLiteral("opt%1").arg(players), QStringLiteral("%1 Players").arg(players),
+                       QRect(140, FirstRowY + 6 + 36 * i, 112, 19));
+        choice->setCheckable(true);
+        choice->setAutoExclusive(true);
+        choice->setFocusPolicy(Qt::StrongFocus);
+        choices_[static_cast<std::size_t>(i)] = choice;
+    }
+    choices_[0]->setChecked(true);
+    choices_[0]->setFocus();
+}
+
+void frm2::AddRow(int number) {
+    const int y = FirstRowY + RowHeight * number;
+    Row row{};
+    row.lblP = AddText(QStringLiteral("lblP(%1)").arg(number), Face::Caption, QRect(24, y, 104, 19),
+                       "Player " + std::to_string(number + 1) + "'s name:");
+    row.txtN = AddField(row.lblP, QStringLiteral("txtN(%1)").arg(number), QPoint(132, y), MaxNameLength, 150);
+    row.cmp = new ComputerToggle(this, QStringLiteral("cmp(%1)").arg(number), QRect(290, y - 1, 21, 21));
+    row.cmp->setAccessibleName(QStringLiteral("Player %1 is played by the computer").arg(number + 1));
+    row.cmp->setToolTip(row.cmp->accessibleName());
+    connect(row.txtN, &Field::Entered, this, &frm2::Cont);
+    connect(row.cmp, &ComputerToggle::toggled, this, [row](bool computer) {
+        row.txtN->setText(computer ? QStringLiteral("Computer") : QString());
+        row.txtN->setEnabled(!computer);
+    });
+    row.lblP->hide();
+    row.txtN->hide();
+    row.cmp->hide();
+    rows_[static_cast<std::size_t>(number)] = row;
+}
+
+void frm2::Cont() {
+    if (choosing_) {
+        ShowNameRows();
+    } else {
+        CheckNames();
+    }
+}
+
+void frm2::ShowNameRows() {
+    std::int16_t players = FewestPlayers;
+    for (CommandLabel* choice : choices_) {
+        if (choice->isChecked()) {
+            break;
+        }
+        ++players;
+    }
+    program_.game().NumPlayers = players;
+    for (CommandLabel* choice : choices_) {
+        choice->hide();
+    }
+    for (int i = 0; i < players; ++i) {
+        const Row& row = rows_[static_cast<std::size_t>(i)];
+        row.lblP->show();
+        row.txtN->show();
+        row.cmp->show();
+    }
+    lbl1_->Show("Enter the players' names:");
+    rows_[0].txtN->setFocus();
+    choosing_ = false;
+}
+
+void frm2::CheckNames() {
+    std::vector<std::string> names;
+    names.reserve(rows_.size());
+    for (int i = 0; i < program_.game().NumPlayers; ++i) {
+        names.push_back(rows_[static_cast<std::size_t>(i)].txtN->Typed());
+    }
+    if (const auto refusal = EnterNames(program_.game(), names)) {
+        lbl1_->Show(refusal->Prompt);
+        for (int beep = 0; beep < refusal->Beeps; ++beep) {
+            QApplication::beep();
+        }
+        return;
+    }
+    program_.OpenBoard();
+    CloseOutright();
+}
+
+bool frm2::CloseRequested() {
+    if (Ask(this,
+            "Closing this window will terminate your new game.\rPress 'Yes' to exit or 'No' to return.")) {
+        program_.End();
+        return true;
+    }
+    return false;
+}
+
+void frm2::keyPressEvent(QKeyEvent* event) {
+    // Enter on one of the choices: their labels leave it to the window.
+    if (choosing_ && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        Cont();
+        return;
+    }
+    Screen::keyPressEvent(event);
+}
+
+}  // namespace vorlund

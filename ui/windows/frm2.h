@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "state/game_state.h"
+#include "ui/parts/computer_toggle.h"
+#include "ui/parts/screen.h"
+
+namespace vorlund {
+
+class Program;
+
+/// The new-game screen: first the number of players, then their names and which of them the computer plays.
+class frm2 final : public Screen {
+    Q_OBJECT
+
+public:
+    explicit frm2(Program& program);
+
+protected:
+    bool CloseRequested() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Row {
+        TextLabel* lblP;
+        Field* txtN;
+        ComputerToggle* cmp;
+    };
+
+    void AddChoices();
+    void AddRow(int number);
+    void Cont();
+    void ShowNameRows();
+    void CheckNames();
+
+    Program& program_;
+    TextLabel* lbl1_;
+    std::array<CommandLabel*, 4> choices_{};
+    std::array<Row, MaxPlayers> rows_{};
+    bool choosing_ = true;  // the number of players is not settled yet
+};
+
+}  // namespace vorlund

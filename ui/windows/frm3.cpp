@@ -1,0 +1,229 @@
+#include "ui/windows/frm3.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <string>
+
+#include "ui/parts/message_box.h"
+#include "ui/program.h"
+#include "ui/windows/frmSelect.h"
+#include "ui/windows/territory_text.h"
+
+namespace vorlund {
+namespace {
+
+constexpr QSize Size(750, 525);
+constexpr int SelectionDelay = 20;  // milliseconds
+
+struct CommandPlace {
+    const char* Name = nullptr;
+    const char* Caption = nullptr;
+    QPoint Position;
+    char Key = 0;
+};
+
+// In the order of Command
+constexpr std::array<CommandPlace, NumCommands> CommandBar{{{"lblBuy", "&Buy", {112, 436}, 'b'},
+                                                            {"lblSell", "&Sell", {112, 464}, 's'},
+                                                            {"lblTransport", "T&ransport", {244, 436}, 'r'},
+                                                            {"lblAttack", "&Attack", {244, 464}, 'a'},
+                                                            {"lblUpgrade", "&Upgrade", {392, 436}, 'u'},
+                                                            {"lblStatus", "S&tatus", {392, 464}, 't'},
+                                                            {"lblEndTurn", "&End Turn", {532, 436}, 'e'},
+                                                            {"lblSave", "Sa&ve", {532, 464}, 'v'}}};
+
+QString Indexed(const char* name, int index) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
+}
+
+Picture MarkerOf(int player) {
+    return Picture(QStringLiteral("marker%1").arg(player), QStringLiteral("Player %1").arg(player + 1));
+}
+
+}  // namespace
+
+frm3::frm3(Program& program)
+    : Screen(nullptr, QStringLiteral("frm3"), QStringLiteral("Vorlund"), Size, QStringLiteral("map")),
+      program_(program),
+      imgSet_{MarkerOf(0), MarkerOf(1), MarkerOf(2), MarkerOf(3), MarkerOf(4)},
+      imgExtraSet_{Picture(QStringLiteral("extra0"), QStringLiteral("Defense")),
+                   Picture(QStringLiteral("extra1"), QStringLiteral("Factory")),
+                   Picture(QStringLiteral("extra2"), QStringLiteral("Factory and defense"))},
+      gameOver_(QStringLiteral("gameover"), QStringLiteral("Game over")) {
+    setFocusPolicy(Qt::StrongFocus);
+    AddMarkers();
+    AddCommandBar();
+    imgGameOver_ = new PictureLabel(this, QStringLiteral("imgGameOver"), QRect(29, 32, 692, 381));
+    imgGameOver_->hide();
+    tmrFirst_.setSingleShot(true);
+    tmrFirst_.setInterval(SelectionDelay);
+    connect(&tmrFirst_, &QTimer::timeout, this, [this] {
+        selection_ = std::make_unique<frmSelect>(program_, *this);
+        selection_->Present();
+    });
+}
+
+frm3::~frm3() = default;
+
+void frm3::AddMarkers() {
+    for (int t = 0; t < NumTerritories; ++t) {
+        Marker marker{};
+        marker.imgCntry = new PictureLabel(this, Indexed("imgCntry", t), QRect(0, 0, 10, 10));
+        marker.imgExtra = new PictureLabel(this, Indexed("imgExtra", t), QRect(0, 0, 10, 10));
+        markers_[static_cast<std::size_t>(t)] = marker;
+    }
+    // The counts lie above all markers, so that a neighbour's marker never covers a digit.
+    for (int t = 0; t < NumTerritories; ++t) {
+        Marker& marker = markers_[static_cast<std::size_t>(t)];
+        marker.lblCntry = new CountLabel(this, Indexed("lblCntry", t), QRect(0, 0, 56, 17));
+        marker.imgCntry->hide();
+        marker.imgExtra->hide();
+        marker.lblCntry->hide();
+    }
+}
+
+void frm3::AddCommandBar() {
+    for (const Command command : AllCommands) {
+        const CommandPlace& place = CommandBar[static_cast<std::size_t>(command)];
+        CommandLabel* label = AddCommand(QString::fromLatin1(place.Name), QString::fromLatin1(place.Caption),
+                                         QRect(place.Position, QSize(90, 19)));
+        label->setFocusPolicy(Qt::TabFocus);
+        label->SetKey(QString(QLatin1Char(place.Key)).toUpper());
+        connect(label, &CommandLabel::clicked, this, [this, command] { Run(command); });
+        commands_[static_cast<std::size_t>(command)] = label;
+    }
+}
+
+void frm3::Open() {
+    const GameState& game = program_.game();
+    if (game.GameLoaded) {
+        setWindowTitle(Displayed("Vorlund - " + game.Current().Name + "'s turn"));
+        RefreshMap();
+        SetCommands(AvailableCommands(game));
+    } else {
+        SetCommands(CommandSet::None());
+        tmrFirst_.start();
+    }
+    Present();
+}
+
+void frm3::RefreshMap() {
+    for (std::size_t t = 0; t < markers_.size(); ++t) {
+        RefreshTerritory(static_cast<int>(t), markers_[t]);
+    }
+}
+
+void frm3::RefreshTerritory(int t, const Marker& marker) {
+    const Territory& territory = program_.game().TerritoryAt(t);
+    const bool built = territory.HasFactory || territory.HasDefense;
+    marker.imgCntry->setVisible(territory.Occupied);
+    marker.imgExtra->setVisible(territory.Occupied && built);
+    marker.lblCntry->setVisible(territory.Occupied);
+    if (!territory.Occupied) {
+        return;
+    }
+    const int x = territory.MapX;
+    const int y = territory.MapY;
+    marker.imgCntry->Show(&imgSet(territory.Owner));
+    marker.imgCntry->move(built ? x - 10 : x - 5, y);
+    if (built) {
+        const std::size_t both = territory.HasFactory && territory.HasDefense ? 1 : 0;
+        marker.imgExtra->Show(&imgExtraSet_[(territory.HasFactory ? 1 : 0) + both]);
+        marker.imgExtra->move(x, y);
+    }
+    marker.lblCntry->move(x - 28, y + 12);
+    marker.lblCntry->Show(std::to_string(territory.Troops) + "/" + std::to_string(territory.Tanks));
+    marker.lblCntry->setAccessibleName(ShortDescription(program_.game(), t));
+}
+
+void frm3::SetCommands(CommandSet available) {
+    // The keyboard goes back to the board itself: an Enter too many after a report must not run a command.
+    setFocus();
+    for (const Command command : AllCommands) {
+        const std::string whyNot = WhyUnavailable(program_.game(), command);
+        commands_[static_cast<std::size_t>(command)]->SetAvailable(
+            available.Has(command),
+            whyNot.empty() ? QStringLiteral("Another window wants to be closed first.") : Displayed(whyNot));
+    }
+}
+
+void frm3::ShowGameOver() {
+    imgGameOver_->Show(&gameOver_);
+    imgGameOver_->raise();
+    imgGameOver_->show();
+}
+
+void frm3::CloseSelection() {
+    tmrFirst_.stop();
+    if (selection_ != nullptr) {
+        selection_->CloseOutright();
+    }
+}
+
+void frm3::Run(Command command) {
+    if (!commands_[static_cast<std::size_t>(command)]->isEnabled()) {
+        return;
+    }
+    if (command == Command::EndTurn) {
+        program_.turn().EndTurn();
+    } else {
+        program_.screens().OpenDialog(command);
+    }
+}
+
+bool frm3::CloseRequested() {
+    if (!program_.game().GameOver &&
+        !AskWithIcon(this,
+                     "Closing this game window will end the game.\rAre you sure you want to continue?")) {
+        return false;
+    }
+    program_.End();
+    return true;
+}
+
+void frm3::TypeInto(Field& field) {
+    connect(&field, &Field::TerritoryWanted, this, [this, &field] { territoryField_ = &field; });
+}
+
+void frm3::mousePressEvent(QMouseEvent* event) {
+    const auto territory = map_.At(event->position());
+    if (territory && !territoryField_.isNull() && territoryField_->isVisible()) {
+        territoryField_->TypeTerritory(*territory + 1);
+    }
+    Screen::mousePressEvent(event);
+}
+
+bool frm3::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        ShowTerritoryTip(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    return Screen::event(event);
+}
+
+void frm3::ShowTerritoryTip(const QHelpEvent& event) {
+    const auto territory = map_.At(event.pos());
+    if (!territory || imgGameOver_->isVisible()) {
+        QToolTip::hideText();
+        return;
+    }
+    // As plain text: a player's name is whatever was typed.
+    const QString tip = FullDescription(program_.game(), *territory).toHtmlEscaped();
+    QToolTip::showText(event.globalPos(), QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip), this);
+}
+
+void frm3::keyPressEvent(QKeyEvent* event) {
+    const QString typed = event->text().toLower();
+    for (const Command command : AllCommands) {
+        if (!event->isAutoRepeat() &&
+            typed == QLatin1Char(CommandBar[static_cast<std::size_t>(command)].Key)) {
+            Run(command);
+            return;
+        }
+    }
+    Screen::keyPressEvent(event);
+}
+
+}  // namespace vorlund

@@ -1,0 +1,132 @@
+#include "ui/windows/frmLoad.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "savegame/game_name.h"
+#include "ui/parts/message_box.h"
+#include "ui/program.h"
+
+namespace vorlund {
+
+frmLoad::frmLoad(Program& program)
+    : Screen(nullptr, QStringLiteral("frmLoad"), QStringLiteral("Vorlund - Load Game"), QSize(340, 260)),
+      program_(program) {
+    TextLabel* lbl2 = AddText(QStringLiteral("lbl2"), Face::Heading, QRect(16, 12, 308, 20),
+                              "Select a saved game from the list below:");
+    flb1_ = new QListWidget(this);
+    flb1_->setObjectName(QStringLiteral("flb1"));
+    flb1_->setGeometry(QRect(16, 40, 180, 204));
+    flb1_->setUniformItemSizes(true);
+    flb1_->viewport()->installEventFilter(this);
+    flb1_->setAccessibleName(lbl2->text());
+    const std::array<const char*, 3> captions{"Load Game", "Delete Game", "Cancel"};
+    const std::array<const char*, 3> keys{"Enter", "Delete", ""};
+    for (int i = 0; i < 3; ++i) {
+        CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo(%1)").arg(i),
+                                         QString::fromLatin1(captions[static_cast<std::size_t>(i)]),
+                                         QRect(212, 56 + 40 * i, 112, 19));
+        lblGo->setFocusPolicy(Qt::TabFocus);
+        lblGo->SetKey(QString::fromLatin1(keys[static_cast<std::size_t>(i)]));
+        connect(lblGo, &CommandLabel::clicked, this, [this, i] { CallLoad(i); });
+    }
+    LightOneAtATime();
+    FillList();
+    flb1_->setFocus();
+}
+
+void frmLoad::FillList() {
+    flb1_->clear();
+    for (const std::string& file : program_.saves().List()) {
+        // The name as it is on the disk goes along: not every name of bytes is one of characters.
+        auto* item = new QListWidgetItem(QString::fromStdString(file), flb1_);
+        item->setData(Qt::UserRole, QByteArray::fromStdString(file));
+    }
+    // Said to the view itself: otherwise the keyboard's coming makes the first game the current one without
+    // selecting it, and an arrow key would step over it.
+    flb1_->setCurrentIndex({});
+}
+
+std::optional<std::string> frmLoad::Selected() const {
+    const auto items = flb1_->selectedItems();
+    return items.isEmpty() ? std::nullopt
+                           : std::optional(items.front()->data(Qt::UserRole).toByteArray().toStdString());
+}
+
+void frmLoad::CallLoad(int index) {
+    switch (index) {
+        case 0:
+            Load();
+            break;
+        case 1:
+            Delete();
+            break;
+        default:
+            close();
+    }
+}
+
+void frmLoad::Load() {
+    const auto file = Selected();
+    const SavedGamesFolder& saves = program_.saves();
+    if (!file || !saves.FileExists(saves.PathOf(*file))) {
+        return;
+    }
+    const auto loaded = saves.Load(*file, program_.game());
+    if (const auto* error = std::get_if<LoadError>(&loaded)) {
+        Exclaim(this, error->Message);
+        return;
+    }
+    program_.game() = std::get<GameState>(loaded);
+    program_.OpenBoard();
+    CloseOutright();
+}
+
+void frmLoad::Delete() {
+    const auto file = Selected();
+    if (!file || !Ask(this, DeleteQuestion(*file), QStringLiteral("Confirm Delete"))) {
+        return;
+    }
+    if (const auto error = program_.saves().Delete(*file)) {
+        Exclaim(this, *error);
+    }
+    FillList();
+}
+
+bool frmLoad::CloseRequested() {
+    program_.BackToTitle();
+    return true;
+}
+
+void frmLoad::keyPressEvent(QKeyEvent* event) {
+    // Keys that the list leaves to the window
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            CallLoad(0);
+            break;
+        case Qt::Key_Delete:
+            CallLoad(1);
+            break;
+        default:
+            Screen::keyPressEvent(event);
+    }
+}
+
+bool frmLoad::eventFilter(QObject* watched, QEvent* event) {
+    // A game is loaded when the button of a double click is let go, so that the release hits no window
+    // behind.
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        DoubleClicked_ = mouse->button() == Qt::LeftButton && flb1_->itemAt(mouse->pos()) != nullptr;
+    } else if (event->type() == QEvent::MouseButtonRelease && DoubleClicked_) {
+        DoubleClicked_ = false;
+        // Not from within the list's own handling of the release: the load may end with this window closed.
+        QMetaObject::invokeMethod(
+            this, [this] { CallLoad(0); }, Qt::QueuedConnection);
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+}  // namespace vorlund

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QListWidget>
+#include <optional>
+#include <string>
+
+#include "ui/parts/screen.h"
+
+namespace vorlund {
+
+class Program;
+
+/// The load screen: the saved games, to be resumed or deleted.
+class frmLoad final : public Screen {
+    Q_OBJECT
+
+public:
+    explicit frmLoad(Program& program);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    bool CloseRequested() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    /// The three commands: load (0), delete (1), cancel (2).
+    void CallLoad(int index);
+    void Load();
+    void Delete();
+    void FillList();
+    std::optional<std::string> Selected() const;
+
+    Program& program_;
+    QListWidget* flb1_;
+    bool DoubleClicked_ = false;
+};
+
+}  // namespace vorlund

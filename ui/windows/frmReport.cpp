@@ -1,0 +1,127 @@
+#include "ui/windows/frmReport.h"
+
+#include <QAccessible>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QWindow>
+
+#include "ui/program.h"
+#include "ui/windows/frm3.h"
+
+namespace vorlund {
+namespace {
+
+constexpr QRect PictureFrame(120, 20, 10, 10);
+constexpr QRect HeadlineFrame(8, 16, 481, 25);
+constexpr QRect BodyFrame(24, 48, 449, 137);
+constexpr int PictureGap = 8;
+
+}  // namespace
+
+frmReport::frmReport(Program& program)
+    : Screen(nullptr, QStringLiteral("frmReport"), QStringLiteral("Vorlund - Report"), QSize(499, 220), {},
+             Qt::Dialog),
+      program_(program) {
+    SetRole(QAccessible::AlertMessage);
+    lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, HeadlineFrame);
+    lbl1_->setAlignment(Qt::AlignCenter);
+    imgC_ = new PictureLabel(this, QStringLiteral("imgC"), PictureFrame);
+    scroll_ = new QScrollArea(this);
+    scroll_->setGeometry(BodyFrame);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->viewport()->setAutoFillBackground(false);
+    scroll_->viewport()->setMouseTracking(true);  // for the commands, which rest when the pointer is here
+    scroll_->setMouseTracking(true);
+    lbl2_ =
+        new TextLabel(nullptr, QStringLiteral("lbl2"), Face::Caption, QRect(QPoint(0, 0), BodyFrame.size()));
+    lbl2_->setWordWrap(true);
+    lbl2_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    scroll_->setWidget(lbl2_);
+    lbl2_->setAutoFillBackground(false);
+    CommandLabel* lblCont =
+        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue"), QRect(214, 192, 72, 19));
+    lblCont->SetKey(QStringLiteral("Enter"));
+    connect(lblCont, &CommandLabel::clicked, this, &frmReport::close);
+}
+
+void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* owner) {
+    setWindowTitle(Displayed(report.Title));
+    imgC_->Show(picture);
+    imgC_->setVisible(picture != nullptr);
+    lbl1_->setGeometry(HeadlineFrame);
+    lbl1_->Show(report.Headline);
+    // A headline so long that it would run under the picture begins behind it instead.
+    const int textWidth = QFontMetrics(lbl1_->font()).horizontalAdvance(lbl1_->text());
+    const int room = PictureFrame.right() + PictureGap;
+    const bool runsUnder = HeadlineFrame.center().x() - textWidth / 2 < room;
+    if (picture != nullptr && runsUnder) {
+        lbl1_->setGeometry(HeadlineFrame.adjusted(room - HeadlineFrame.left(), 0, 0, 0));
+        lbl1_->Show(report.Headline);
+    }
+    lbl2_->Show(report.Body);
+    const int width = BodyFrame.width();
+    const int needed = lbl2_->heightForWidth(width);
+    const bool scrolls = needed > BodyFrame.height();
+    const int bar = scrolls ? scroll_->verticalScrollBar()->sizeHint().width() : 0;
+    lbl2_->resize(width - bar, scrolls ? lbl2_->heightForWidth(width - bar) : BodyFrame.height());
+    scroll_->verticalScrollBar()->setValue(0);
+    winId();
+    windowHandle()->setTransientParent(owner != nullptr ? owner->windowHandle() : nullptr);
+    if (!isVisible()) {
+        PlaceOver(*this, *program_.screens().board(), frm3::ReportBottom);
+    }
+    setAccessibleName(lbl1_->text());
+    setAccessibleDescription(lbl2_->text());
+    Present();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+bool frmReport::CloseRequested() {
+    const bool stays = program_.turn().ReportClosed();
+    if (!stays) {
+        program_.screens().board()->activateWindow();
+    }
+    return !stays;
+}
+
+bool frmReport::Scroll(int key) {
+    QScrollBar* bar = scroll_->verticalScrollBar();
+    switch (key) {
+        case Qt::Key_Up:
+            bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+            return true;
+        case Qt::Key_Down:
+            bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+            return true;
+        case Qt::Key_PageUp:
+            bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+            return true;
+        case Qt::Key_PageDown:
+            bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            return true;
+        case Qt::Key_Home:
+            bar->triggerAction(QAbstractSlider::SliderToMinimum);
+            return true;
+        case Qt::Key_End:
+            bar->triggerAction(QAbstractSlider::SliderToMaximum);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void frmReport::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
+        close();
+    } else if (!Scroll(key)) {
+        Screen::keyPressEvent(event);
+    }
+}
+
+}  // namespace vorlund

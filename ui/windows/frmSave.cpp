@@ -1,0 +1,55 @@
+#include "ui/windows/frmSave.h"
+
+#include "savegame/game_name.h"
+#include "ui/parts/message_box.h"
+#include "ui/program.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int MaxGameNameLength = 12;
+
+}  // namespace
+
+frmSave::frmSave(Program& program)
+    : CommandDialog(program, QStringLiteral("frmSave"), QStringLiteral("Vorlund - Save Game"),
+                    QSize(300, 96)) {
+    TextLabel* lbl1 = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 260, 20),
+                              "Enter a name for the saved game:");
+    txtSave_ = AddField(lbl1, QStringLiteral("txtSave"), QPoint(20, 50), MaxGameNameLength, 160);
+    CommandLabel* lblGo =
+        AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(206, 50, 60, 19));
+    lblGo->SetKey(QStringLiteral("Enter"));
+    connect(lblGo, &CommandLabel::clicked, this, &frmSave::Entr);
+    connect(txtSave_, &Field::Entered, this, &frmSave::Entr);
+    txtSave_->setFocus();
+}
+
+void frmSave::Entr() {
+    const std::string typed = txtSave_->Typed();
+    if (const auto why = WhyNoGameName(typed)) {
+        Exclaim(this, *why);
+        return;
+    }
+    const std::string file = FileNameOf(typed);
+    if (!MayWrite(file)) {
+        return;
+    }
+    if (const auto error = program().saves().Save(file, program().game())) {
+        Exclaim(this, *error);
+        return;
+    }
+    Inform(this, SavedText(file));
+    close();
+}
+
+bool frmSave::MayWrite(const std::string& file) {
+    const SavedGamesFolder& saves = program().saves();
+    if (!saves.FileExists(saves.PathOf(file)) || Ask(this, OverwriteQuestion)) {
+        return true;
+    }
+    Inform(this, NotSavedText);
+    return false;
+}
+
+}  // namespace vorlund

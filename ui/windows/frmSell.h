@@ -1,0 +1,22 @@
+#pragma once
+
+#include "actions/sell.h"
+#include "ui/windows/trade_dialog.h"
+
+namespace vorlund {
+
+/// The sell dialog.
+class frmSell final : public TradeDialog {
+    Q_OBJECT
+
+public:
+    explicit frmSell(Program& program);
+
+private:
+    void Trade() override;
+
+    using CommandDialog::Settle;
+    void Settle(const NoSurvivor& end);
+};
+
+}  // namespace vorlund

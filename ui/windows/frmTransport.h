@@ -1,0 +1,30 @@
+#pragma once
+
+#include "actions/transport.h"
+#include "ui/windows/command_dialog.h"
+
+namespace vorlund {
+
+/// The transport dialog. It stays open after a move, so that the turn's second move can follow at once.
+class frmTransport final : public CommandDialog {
+    Q_OBJECT
+
+public:
+    explicit frmTransport(Program& program);
+
+private:
+    void Move();
+    void ShowWhetherMovesAreLeft();
+
+    using CommandDialog::Settle;
+    void Settle(const Moved& moved);
+
+    TextLabel* lblA_;
+    Field* txtC1_;
+    Field* txtC2_;
+    Field* txtTroops_;
+    Field* txtTanks_;
+    CommandLabel* lblGo_;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,84 @@
+#include "ui/windows/frmUpgrade.h"
+
+#include "actions/buy.h"
+#include "ui/program.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int Width = 258;
+
+QString Numbered(const char* stem, int number) {
+    return QString::fromLatin1(stem) + QString::number(number);
+}
+
+}  // namespace
+
+frmUpgrade::frmUpgrade(Program& program)
+    : CommandDialog(program, QStringLiteral("frmUpgrade"), QStringLiteral("Vorlund - Upgrade"),
+                    QSize(Width, 277)) {
+    lblTop_ = AddText(QStringLiteral("lblTop"), Face::Status, QRect(8, 4, Width - 16, 34));
+    AddLine(QStringLiteral("Line1"), QPoint(12, 41), Width - 24);
+    AddTrack(Track::Economy, "Economy", 1, 46);
+    AddLine(QStringLiteral("Line2"), QPoint(12, 83), Width - 24);
+    AddTrack(Track::Warfare, "Warfare", 2, 88);
+    AddLine(QStringLiteral("Line3"), QPoint(12, 125), Width - 24);
+    AddTrack(Track::Nuclear, "Nuclear", 3, 130);
+    AddLine(QStringLiteral("Line6"), QPoint(12, 167), Width - 24);
+    AddConstruction(1, 177, "Label7", "txtC1", QStringLiteral("Build Factory"), "$180", &Fact);
+    AddConstruction(2, 227, "Label1", "txtC2", QStringLiteral("Build Defense"), "$100", &Def);
+    fields_[0]->setFocus();
+    Update({});
+}
+
+void frmUpgrade::AddTrack(Track track, const char* name, int number, int y) {
+    TrackRow row{track, AddText(Numbered("lbl", number), Face::Caption, QRect(12, y, 144, 32)),
+                 AddCommand(Numbered("lblGo", number), QStringLiteral("Upgrade"), QRect(164, y + 6, 78, 19))};
+    row.Go->setAccessibleDescription(QString::fromLatin1(name));
+    row.Go->SetKey(QStringLiteral("Alt+%1").arg(number));
+    row.Go->setShortcut(QKeySequence(row.Go->Key()));
+    connect(row.Go, &CommandLabel::clicked, this, [this, track] {
+        std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(program().game(), track));
+    });
+    tracks_[static_cast<std::size_t>(number - 1)] = row;
+}
+
+void frmUpgrade::AddConstruction(int number, int y, const char* captionName, const char* fieldName,
+                                 const QString& command, const char* price,
+                                 std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view)) {
+    TextLabel* caption =
+        AddText(QString::fromLatin1(captionName), Face::Caption, QRect(12, y, 62, 19), "Territory #:");
+    Field* field = AddField(caption, QString::fromLatin1(fieldName), QPoint(76, y), 2);
+    CommandLabel* go = AddCommand(Numbered("lblGo", number + 3), command, QRect(124, y, 118, 19));
+    AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), price)
+        ->setAlignment(Qt::AlignCenter);
+    // The two captions are alike; who hears the screen is told what is built.
+    field->setAccessibleDescription(command);
+    go->SetKey(QStringLiteral("Enter"));
+    const auto run = [this, field, build] {
+        std::visit([this](const auto& outcome) { Settle(outcome); }, build(program().game(), field->Typed()));
+    };
+    connect(go, &CommandLabel::clicked, this, run);
+    connect(field, &Field::Entered, this, run);
+    TakeTerritories({field});
+    fields_[static_cast<std::size_t>(number - 1)] = field;
+}
+
+void frmUpgrade::Update(const std::string& message) {
+    for (Field* field : fields_) {
+        field->clear();
+    }
+    lblTop_->Show(message + MoneyLine(program().game()));
+    for (const TrackRow& row : tracks_) {
+        const TrackStatus status = StatusOf(program().game(), row.Which);
+        row.Status->Show(status.Text);
+        row.Go->SetAvailable(status.CanRise, QStringLiteral("This upgrade is at its highest level."));
+    }
+}
+
+void frmUpgrade::Settle(const Purchase& purchase) {
+    Update(purchase.Message);
+    program().screens().RefreshMap();
+}
+
+}  // namespace vorlund

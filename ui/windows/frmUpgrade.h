@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "actions/upgrade.h"
+#include "ui/windows/command_dialog.h"
+
+namespace vorlund {
+
+/// The upgrade dialog: three upgrade tracks and two kinds of construction. It stays open after each purchase.
+class frmUpgrade final : public CommandDialog {
+    Q_OBJECT
+
+public:
+    explicit frmUpgrade(Program& program);
+
+private:
+    struct TrackRow {
+        Track Which;
+        TextLabel* Status;
+        CommandLabel* Go;
+    };
+
+    void AddTrack(Track track, const char* name, int number, int y);
+    void AddConstruction(int number, int y, const char* captionName, const char* fieldName,
+                         const QString& command, const char* price,
+                         std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view));
+
+    /// Brings the dialog up to the game; `message` is the last result, in front of the money line.
+    void Update(const std::string& message);
+
+    using CommandDialog::Settle;
+    void Settle(const Nothing&) {}
+    void Settle(const Purchase& purchase);
+
+    TextLabel* lblTop_;
+    std::array<TrackRow, 3> tracks_{};
+    std::array<Field*, 2> fields_{};
+};
+
+}  // namespace vorlund

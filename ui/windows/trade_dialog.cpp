@@ -1,0 +1,46 @@
+#include "ui/windows/trade_dialog.h"
+
+namespace vorlund {
+namespace {
+
+constexpr int TroopsY = 38;
+constexpr int RowHeight = 30;
+constexpr int FieldHeight = 19;
+constexpr int TerritoryY = TroopsY + RowHeight / 2;
+
+}  // namespace
+
+TradeDialog::TradeDialog(Program& program, const Layout& layout, std::string_view topLine)
+    : CommandDialog(program, layout.Name, layout.Title, layout.Size) {
+    AddText(QStringLiteral("lblA"), Face::Status, QRect(8, 5, layout.Size.width() - 16, 19), topLine)
+        ->setAlignment(Qt::AlignCenter);
+    const auto row = [&](const char* name, const char* field, const char* caption, int line) {
+        const int y = TroopsY + line * RowHeight;
+        const int x = layout.QuantityCaptionX;
+        TextLabel* label = AddText(QString::fromLatin1(name), Face::Caption,
+                                   QRect(x, y, layout.QuantityFieldX - x - 4, FieldHeight), caption);
+        return AddField(label, QString::fromLatin1(field), QPoint(layout.QuantityFieldX, y), 3);
+    };
+    TextLabel* lbl3 =
+        AddText(QStringLiteral("lbl3"), Face::Caption,
+                QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight), layout.TerritoryCaption);
+    txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(layout.TerritoryFieldX, TerritoryY), 2);
+    txtTroops_ = row("lbl4", "txtTroops", layout.TroopsCaption, 0);
+    txtTanks_ = row("lbl5", "txtTanks", layout.TanksCaption, 1);
+    txtOil_ = row("lbl6", "txtOil", layout.OilCaption, 2);
+    CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo"), layout.Command,
+                                     QRect(layout.QuantityFieldX + 42, TroopsY + RowHeight, 40, FieldHeight));
+    lblGo->SetKey(QStringLiteral("Enter"));
+    connect(lblGo, &CommandLabel::clicked, this, &TradeDialog::Trade);
+    for (Field* field : {txtC1_, txtTroops_, txtTanks_, txtOil_}) {
+        connect(field, &Field::Entered, this, &TradeDialog::Trade);
+    }
+    TakeTerritories({txtC1_});
+    txtC1_->setFocus();
+}
+
+TradeEntries TradeDialog::Entries() const {
+    return {txtC1_->Typed(), txtTroops_->Typed(), txtTanks_->Typed(), txtOil_->Typed()};
+}
+
+}  // namespace vorlund
