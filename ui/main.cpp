@@ -5,6 +5,7 @@
 
 #include "ui/machine/early_fonts.h"
 #include "ui/machine/single_copy.h"
+#include "ui/machine/sound.h"
 #include "ui/parts/accessible.h"
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
@@ -28,8 +29,10 @@ int main(int, char** arguments) {
     qApp->installEventFilter(&heldKeys);
     vorlund::DescribeScreensToAssistiveTechnology();
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    vorlund::Sound sound;
     vorlund::Program program(std::make_unique<vorlund::ClockRandom>(),
-                             vorlund::SavedGamesFolder((data + QStringLiteral("/vorlund")).toStdString()));
+                             vorlund::SavedGamesFolder((data + QStringLiteral("/vorlund")).toStdString()),
+                             sound);
     program.Start();
     return QApplication::exec();
 }

@@ -11,6 +11,7 @@
 #include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
 #include "ui/machine/early_fonts.h"
+#include "ui/machine/sound.h"
 #include "ui/program.h"
 #include "ui/windows/frm3.h"
 
@@ -112,7 +113,7 @@ void OpenBoard(Program& program) {
         Give(program.game(), t, t % 5, t, t % 4);
     }
     program.game().GameLoaded = true;
-    program.sound().PlayWave("BEEP");
+    program.sound().PlayWave(Wave::Beep);
     program.OpenBoard();
 }
 
@@ -136,7 +137,7 @@ double SlowestKey(Program& program) {
 double SlowestSound(Program& program) {
     double slowest = 0;
     for (int i = 0; i < 200; ++i) {
-        slowest = std::max(slowest, Milliseconds([&] { program.sound().PlayWave("GUN"); }));
+        slowest = std::max(slowest, Milliseconds([&] { program.sound().PlayWave(Wave::Gun); }));
     }
     return slowest;
 }
@@ -190,7 +191,9 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     fonts.reset();
     QApplication::setQuitOnLastWindowClosed(false);
-    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), vorlund::SavedGamesFolder("/none"));
+    vorlund::Sound sound;
+    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), vorlund::SavedGamesFolder("/none"),
+                             sound);
     if (argc == 1) {
         vorlund::PrintTable(program);
         return 0;
