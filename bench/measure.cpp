@@ -7,10 +7,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/bench/first_paint.h"
+#include "bench/first_paint.h"
 #include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
-#include "ui/machine/early_fonts.h"
 #include "ui/machine/sound.h"
 #include "ui/program.h"
 #include "ui/windows/frm3.h"
@@ -169,7 +168,7 @@ double MicrosecondsATurn() {
 
 void PrintTable(Program& program) {
     Row("start to the title's first paint, to a bare window's",
-        Ratio("title", 21, [](const Child& child) { return child.ToPaint; }), "x", 1.5);
+        Ratio("title", 21, [](const Child& child) { return child.ToPaint; }), "x", 1.4);
     Row("memory with the board up, to a bare window's", Ratio("board", 5, Kibibytes), "x", 2);
     Row("wake-ups of the idle title, in 3 seconds", IdleWakeUps("title"), "", 0);
     Row("wake-ups of the idle board, in 3 seconds", IdleWakeUps("board"), "", 0);
@@ -187,9 +186,7 @@ void PrintTable(Program& program) {
 }  // namespace vorlund
 
 int main(int argc, char** argv) {
-    std::optional<vorlund::EarlyFonts> fonts(std::in_place);
     const QApplication application(argc, argv);
-    fonts.reset();
     QApplication::setQuitOnLastWindowClosed(false);
     vorlund::Sound sound;
     vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), vorlund::SavedGamesFolder("/none"),
