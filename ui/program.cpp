@@ -9,9 +9,10 @@
 
 namespace vorlund {
 
-Program::Program(std::unique_ptr<Random> random, SavedGamesFolder saves)
+Program::Program(std::unique_ptr<Random> random, SavedGamesFolder saves, Sounds& sounds)
     : random_(std::move(random)),
       saves_(std::move(saves)),
+      sounds_(sounds),
       screens_(*this),
       turn_(game_, *random_, screens_, [this] { ComputerTurn(game_, *random_, screens_); }) {}
 

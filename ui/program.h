@@ -7,7 +7,7 @@
 #include "state/random.h"
 #include "turn/turn_cycle.h"
 #include "ui/game_screens.h"
-#include "ui/machine/sound.h"
+#include "ui/machine/sounds.h"
 #include "ui/windows/frm1.h"
 
 namespace vorlund {
@@ -19,8 +19,9 @@ class frmLoad;
 /// leads from the title screen to a game and from there to the end.
 class Program {
 public:
-    /// `random` is the game's chance and `saves` the folder of the saved games.
-    Program(std::unique_ptr<Random> random, SavedGamesFolder saves);
+    /// `random` is the game's chance, `saves` the folder of the saved games, and `sounds` plays the
+    /// recordings.
+    Program(std::unique_ptr<Random> random, SavedGamesFolder saves, Sounds& sounds);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -46,7 +47,7 @@ public:
     GameState& game() { return game_; }
     Random& random() { return *random_; }
     SavedGamesFolder& saves() { return saves_; }
-    Sound& sound() { return sound_; }
+    Sounds& sound() { return sounds_; }
     GameScreens& screens() { return screens_; }
     TurnCycle& turn() { return turn_; }
 
@@ -54,7 +55,7 @@ private:
     GameState game_;
     std::unique_ptr<Random> random_;
     SavedGamesFolder saves_;
-    Sound sound_;
+    Sounds& sounds_;
     GameScreens screens_;
     TurnCycle turn_;
     std::unique_ptr<frm1> title_;

@@ -4,6 +4,7 @@
 
 #include "tests/engine/games.h"
 #include "tests/engine/seeded_random.h"
+#include "ui/machine/sound.h"
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
 #include "ui/windows/frm3.h"
@@ -239,7 +240,9 @@ private:
     int seed_;
     SeededRandom mind_;
     QTemporaryDir folder_;
-    Program program_{std::make_unique<SeededRandom>(seed_), SavedGamesFolder(folder_.path().toStdString())};
+    Sound sound_;
+    Program program_{std::make_unique<SeededRandom>(seed_), SavedGamesFolder(folder_.path().toStdString()),
+                     sound_};
     qsizetype eventsAllowed_ = 0;
     QStringList done_;
     std::clock_t eventBegan_ = 0;

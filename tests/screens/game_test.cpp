@@ -118,6 +118,7 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
         sitting.Expect({Leave, "n"});
         Close("frm3");
         sitting.Expect({Leave, "y"});
+        EXPECT_EQ(sitting.Heard(), "Beep");
         EXPECT_TRUE(Ends([] { Close("frm3"); }));
     }
     Sitting sitting(std::make_unique<NoLuck>(), saves.path());
@@ -178,6 +179,7 @@ TEST(Game, FromASavedGameToTheEnd) {
     Type("e");
     EXPECT_EQ(Desktop(), "Vorlund - Anna wins []");
     EXPECT_EQ(Control("frm3", "imgGameOver").accessibleName(), "Game over");
+    EXPECT_EQ(sitting.Heard(), "Beep Explode Gun Gun");
     EXPECT_TRUE(Ends([] { Close("frm3"); }));
 }
 

@@ -52,9 +52,19 @@ QWindow& Keyboard() {
 
 }  // namespace
 
+void SoundRecorder::PlayWave(Wave wave) {
+    if (wave == Wave::Vrl1) {
+        ++Music;
+    } else {
+        Effects << (wave == Wave::Beep ? "Beep" : wave == Wave::Gun ? "Gun" : "Explode");
+    }
+    WhenPlayed();
+}
+
 Sitting::Sitting(std::unique_ptr<Random> chance, const QString& saves)
     : saves_(saves.isEmpty() ? folder_.filePath("saves") : saves),
-      program_(std::make_unique<Program>(std::move(chance), SavedGamesFolder(saves_.toStdString()))) {
+      program_(
+          std::make_unique<Program>(std::move(chance), SavedGamesFolder(saves_.toStdString()), sounds_)) {
     qApp->installEventFilter(&heldKeys_);
     qApp->installEventFilter(this);
     beeps = 0;

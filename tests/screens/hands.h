@@ -32,6 +32,15 @@ struct Box {
     std::function<void()> Meanwhile = {};  ///< done while the box is up
 };
 
+/// Plays nothing, and keeps what it was asked to play.
+struct SoundRecorder final : Sounds {
+    void PlayWave(Wave wave) override;
+
+    QStringList Effects;  ///< all but the music: "Beep", "Gun", "Explode"
+    int Music = 0;
+    std::function<void()> WhenPlayed = [] {};
+};
+
 /// One run of the program with somebody before it. A message box that nobody expects fails the test, and so
 /// does one that never comes.
 class Sitting : public QObject {
@@ -44,6 +53,10 @@ public:
 
     Program& Run() { return *program_; }
     GameState& Game() { return program_->game(); }
+    SoundRecorder& Recorded() { return sounds_; }
+
+    /// The recordings that were started so far but for the music, which starts by itself: "Beep Gun".
+    QString Heard() const { return sounds_.Effects.join(u' '); }
     QString Saves() const { return saves_; }
 
     /// Saves `game` as `file` behind the program's back.
@@ -63,6 +76,7 @@ private:
     QTemporaryDir folder_;
     QString saves_;
     HeldKeys heldKeys_;
+    SoundRecorder sounds_;
     std::unique_ptr<Program> program_;
     std::deque<Box> expected_;
 };

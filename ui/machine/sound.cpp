@@ -2,8 +2,8 @@
 
 #include <QFile>
 #include <QLibrary>
-#include <QResource>
 #include <QString>
+#include <array>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -19,6 +19,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+// In the order of Wave
+constexpr std::array kFiles{":/sound/beep.wav", ":/sound/vrl1.wav", ":/sound/gun.wav", ":/sound/explode.wav"};
 constexpr int kRate = 22050;
 constexpr Uint16 kBufferedSamples = 512;  // 23 ms: a click answers the hand, and closing is quick
 constexpr auto kLinger = 1s;       // what the device may still hold when the last sample has been handed over
@@ -51,8 +53,8 @@ void Prepare(const SdlAudio& sdl) {
 }
 
 // Samples of a recording in the device's format, native 16-bit mono at kRate; none if it cannot be read.
-std::vector<Uint8> LoadWave(const SdlAudio& sdl, const QString& path) {
-    QFile file(path);
+std::vector<Uint8> LoadWave(const SdlAudio& sdl, Wave wave) {
+    QFile file(QString::fromLatin1(kFiles.at(static_cast<std::size_t>(wave))));
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -132,7 +134,7 @@ private:
 struct Sound::Mailbox {
     std::mutex mutex;
     std::condition_variable changed;
-    std::optional<QString> wanted;  // the recording to play next
+    std::optional<Wave> wanted;  // the recording to play next
     bool ending = false;
     bool ended = false;
 };
@@ -155,14 +157,9 @@ Sound::~Sound() {
     }
 }
 
-void Sound::PlayWave(std::string_view name) {
-    const QString lowered = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())).toLower();
-    const QString path = QStringLiteral(":/sound/%1.wav").arg(lowered);
-    if (!QResource(path).isValid()) {
-        return;
-    }
+void Sound::PlayWave(Wave wave) {
     const std::lock_guard lock(mailbox_->mutex);
-    mailbox_->wanted = path;
+    mailbox_->wanted = wave;
     mailbox_->changed.notify_all();
 }
 
@@ -188,9 +185,9 @@ void Sound::PlayUntilTheEnd(const SdlAudio& sdl, Mailbox& mailbox) {
     std::unique_lock lock(mailbox.mutex);
     while (!mailbox.ending) {
         if (mailbox.wanted) {
-            const QString path = *std::exchange(mailbox.wanted, std::nullopt);
+            const Wave wave = *std::exchange(mailbox.wanted, std::nullopt);
             lock.unlock();
-            const std::vector<Uint8> samples = LoadWave(sdl, path);
+            const std::vector<Uint8> samples = LoadWave(sdl, wave);
             if (speaker && !speaker->IsAlive()) {
                 speaker.reset();
             }

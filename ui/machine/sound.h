@@ -1,8 +1,9 @@
 #pragma once
 
 #include <memory>
-#include <string_view>
 #include <thread>
+
+#include "ui/machine/sounds.h"
 
 namespace vorlund {
 
@@ -13,20 +14,17 @@ class SdlAudio;
 /// A worker thread does everything that may take its time: it opens the audio device for a sound and closes
 /// it when all is quiet again, so that a silent game holds no device and wakes nothing up. Trouble with the
 /// device is never reported: the game is then silent.
-class Sound {
+class Sound final : public Sounds {
 public:
     Sound();
 
     /// Cuts the sound off. Waits a moment for the device to close; a device that hangs is left behind.
-    ~Sound();
+    ~Sound() override;
 
     Sound(const Sound&) = delete;
     Sound& operator=(const Sound&) = delete;
 
-    /// Starts the recording called `name` ("BEEP", "VRL1", "GUN" or "EXPLODE", in any case) from its
-    /// beginning and returns at once. It takes the place of the one that is playing or waiting; an unknown
-    /// name changes nothing.
-    void PlayWave(std::string_view name);
+    void PlayWave(Wave wave) override;
 
 private:
     struct Mailbox;

@@ -50,7 +50,7 @@ void frm1::AddCommands() {
         CommandLabel* command = AddCommand(QString::fromLatin1(name), caption, box);
         command->setFocusPolicy(Qt::TabFocus);
         connect(command, &CommandLabel::clicked, this, [this, run] {
-            program_.sound().PlayWave("BEEP");
+            program_.sound().PlayWave(Wave::Beep);
             (program_.*run)();
         });
     };
@@ -68,7 +68,7 @@ void frm1::StartTimers() {
         tmr1_.stop();
     });
     connect(&tmr2_, &QTimer::timeout, this, [this] {
-        program_.sound().PlayWave("VRL1");
+        program_.sound().PlayWave(Wave::Vrl1);
         tmr2_.stop();
     });
     connect(&tmr3_, &QTimer::timeout, this, &frm1::TypeCredit);

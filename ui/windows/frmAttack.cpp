@@ -63,7 +63,7 @@ void frmAttack::Attack() {
     const AttackEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
     const auto outcome = Attck(program().game(), program().random(), lblAttack_->isEnabled(), entries);
     if (std::holds_alternative<Report>(outcome)) {
-        program().sound().PlayWave("GUN");
+        program().sound().PlayWave(Wave::Gun);
     }
     std::visit([this](const auto& result) { Settle(result); }, outcome);
 }
@@ -71,7 +71,7 @@ void frmAttack::Attack() {
 void frmAttack::LaunchNuke() {
     const auto outcome = Strike(program().game(), lblStrike_->isEnabled(), txtN_->Typed());
     if (std::holds_alternative<Report>(outcome)) {
-        program().sound().PlayWave("EXPLODE");
+        program().sound().PlayWave(Wave::Explode);
     }
     std::visit([this](const auto& result) { Settle(result); }, outcome);
 }

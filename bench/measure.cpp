@@ -7,10 +7,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "tests/bench/first_paint.h"
+#include "bench/first_paint.h"
 #include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
-#include "ui/machine/early_fonts.h"
+#include "ui/machine/sound.h"
 #include "ui/program.h"
 #include "ui/windows/frm3.h"
 
@@ -112,7 +112,7 @@ void OpenBoard(Program& program) {
         Give(program.game(), t, t % 5, t, t % 4);
     }
     program.game().GameLoaded = true;
-    program.sound().PlayWave("BEEP");
+    program.sound().PlayWave(Wave::Beep);
     program.OpenBoard();
 }
 
@@ -136,7 +136,7 @@ double SlowestKey(Program& program) {
 double SlowestSound(Program& program) {
     double slowest = 0;
     for (int i = 0; i < 200; ++i) {
-        slowest = std::max(slowest, Milliseconds([&] { program.sound().PlayWave("GUN"); }));
+        slowest = std::max(slowest, Milliseconds([&] { program.sound().PlayWave(Wave::Gun); }));
     }
     return slowest;
 }
@@ -168,7 +168,7 @@ double MicrosecondsATurn() {
 
 void PrintTable(Program& program) {
     Row("start to the title's first paint, to a bare window's",
-        Ratio("title", 21, [](const Child& child) { return child.ToPaint; }), "x", 1.5);
+        Ratio("title", 21, [](const Child& child) { return child.ToPaint; }), "x", 1.4);
     Row("memory with the board up, to a bare window's", Ratio("board", 5, Kibibytes), "x", 2);
     Row("wake-ups of the idle title, in 3 seconds", IdleWakeUps("title"), "", 0);
     Row("wake-ups of the idle board, in 3 seconds", IdleWakeUps("board"), "", 0);
@@ -186,11 +186,11 @@ void PrintTable(Program& program) {
 }  // namespace vorlund
 
 int main(int argc, char** argv) {
-    std::optional<vorlund::EarlyFonts> fonts(std::in_place);
     const QApplication application(argc, argv);
-    fonts.reset();
     QApplication::setQuitOnLastWindowClosed(false);
-    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), vorlund::SavedGamesFolder("/none"));
+    vorlund::Sound sound;
+    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), vorlund::SavedGamesFolder("/none"),
+                             sound);
     if (argc == 1) {
         vorlund::PrintTable(program);
         return 0;

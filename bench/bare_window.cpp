@@ -1,11 +1,12 @@
+#include <QLabel>
 #include <string_view>
 
-#include "tests/bench/first_paint.h"
+#include "bench/first_paint.h"
 
-// An empty window of the size of the title screen or of the board.
+// A window of the size of the title screen or of the board that shows one line of text.
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QWidget window;
+    QLabel window(QStringLiteral("Vorlund"));
     window.setFixedSize(std::string_view(argv[1]) == "title" ? QSize(400, 223) : QSize(750, 525));
     window.show();
     return TellPaintAndStay();
