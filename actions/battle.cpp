@@ -36,12 +36,6 @@ Refusal InvalidData() {
     return {"You entered invalid attack data...\rCheck the validity of your attack and try again."};
 }
 
-/// The territory index that was typed, -1 when there is none.
-int IndexOrNone(const std::string& typed) {
-    const std::optional<double> number = ReadNumber(typed);
-    return number ? TerritoryIndex(*number).value_or(-1) : -1;
-}
-
 std::variant<Refusal, Order> ReadOrder(const GameState& game, const AttackEntries& entries) {
     if (entries.Attacker.empty()) {
         return Refusal{"Enter a number 1-42 for the attacking territory."};
@@ -57,14 +51,14 @@ std::variant<Refusal, Order> ReadOrder(const GameState& game, const AttackEntrie
     if (*troopsTyped == 0 && *tanksTyped == 0) {
         return Refusal{"Enter a number for either troops or tanks."};
     }
-    const int from = IndexOrNone(entries.Attacker);
-    const int to = IndexOrNone(entries.Defender);
+    const auto from = ReadTerritory(entries.Attacker, TerritoryRounding::Index);
+    const auto to = ReadTerritory(entries.Defender, TerritoryRounding::Index);
     const auto troops = CutToInt16(*troopsTyped);
     const auto tanks = CutToInt16(*tanksTyped);
-    if (!CanReach(game, true, from, to) || !troops || !tanks) {
+    if (!from || !to || !CanReach(game, true, *from, *to) || !troops || !tanks) {
         return InvalidData();
     }
-    return Order{from, to, *troops, *tanks};
+    return Order{*from, *to, *troops, *tanks};
 }
 
 std::optional<Refusal> CheckForce(const Territory& from, const Order& order) {

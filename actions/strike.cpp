@@ -1,7 +1,5 @@
 #include "actions/strike.h"
 
-#include <optional>
-
 #include "state/int16.h"
 #include "state/typed_number.h"
 
@@ -31,19 +29,18 @@ std::variant<Beep, Refusal, Report> Strike(GameState& game, bool strikeEnabled, 
     if (target.empty()) {
         return Refusal{"Enter a number 1-42 for the country to nuke."};
     }
-    const std::optional<double> number = ReadNumber(target);
-    if (!number || !IsTerritoryNumber(*number)) {
+    const auto t = ReadTerritory(target, TerritoryRounding::IndexInRange);
+    if (!t) {
         return Refusal{"The country number must be 1-42."};
     }
-    const int t = TerritoryIndex(*number).value();
-    const Territory& territory = game.TerritoryAt(t);
+    const Territory& territory = game.TerritoryAt(*t);
     if (!territory.Occupied) {
         return Refusal{"You may not nuke an unoccupied territory."};
     }
-    if (Owns(game, game.CurrentPlayer, t)) {
+    if (Owns(game, game.CurrentPlayer, *t)) {
         return Refusal{"You may not nuke your own territory."};
     }
-    const BombLosses losses = DropBomb(game, t);
+    const BombLosses losses = DropBomb(game, *t);
     const int owner = territory.Owner;
     Report report;
     report.Title = "Vorlund - Nuclear Strike Results";

@@ -41,16 +41,15 @@ std::optional<TradeOrder> CutAndCorrect(const TradeQuantities& quantities) {
 
 std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const UnitKind& kind,
                                          const TradeEntries& entries) {
-    const auto number = ReadQuantity(entries.Territory);
-    if (!number) {
+    if (!ReadQuantity(entries.Territory)) {
         return Refusal{NoTransactionText};
     }
-    const auto index = TerritoryIndex(*number);
-    if (!IsTerritoryNumber(*number) || !index) {
+    const auto t = ReadTerritory(entries.Territory, TerritoryRounding::IndexInRange);
+    if (!t) {
         return Refusal{std::string("To ") + terms.Verb + " " + kind.Name +
                        " you need a valid territory number (1-42).\rNo transaction was made."};
     }
-    return *index;
+    return *t;
 }
 
 std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const TradeOrder& order, int t) {

@@ -37,15 +37,10 @@ std::optional<Force> ReadForce(const TransportEntries& entries) {
     return Force{*troops, *wholeTanks};
 }
 
-std::optional<int> ReadIndex(const std::string& typed) {
-    const auto number = ReadNumber(typed);
-    return number ? TerritoryIndex(*number) : std::nullopt;
-}
-
 // A move that the map and the 16-bit range allow, whatever stands in its source.
 std::optional<Move> ReadMove(const GameState& game, const TransportEntries& entries, const Force& force) {
-    const auto from = ReadIndex(entries.Source);
-    const auto to = ReadIndex(entries.Destination);
+    const auto from = ReadTerritory(entries.Source, TerritoryRounding::Index);
+    const auto to = ReadTerritory(entries.Destination, TerritoryRounding::Index);
     const auto troops = CutToInt16(force.Troops);
     if (!from || !to || !troops || !CanReach(game, false, *from, *to)) {
         return std::nullopt;

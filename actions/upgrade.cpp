@@ -51,17 +51,8 @@ constexpr BuildingTerms FactoryTerms{"Factory",   "Building a factory",   "A fac
 constexpr BuildingTerms DefenseTerms{"Defense", "Building defense",     "Defense",
                                      "defense", &Territory::HasDefense, DefensePrice};
 
-std::optional<int> ReadTerritory(std::string_view typed) {
-    const auto number = ReadNumber(typed);
-    const auto rounded = number ? RoundToInt16(*number) : std::nullopt;
-    if (!rounded || !IsTerritoryNumber(*rounded)) {
-        return std::nullopt;
-    }
-    return *rounded - 1;
-}
-
 std::variant<Refusal, Purchase> Build(GameState& game, const BuildingTerms& terms, std::string_view typed) {
-    const auto t = ReadTerritory(typed);
+    const auto t = ReadTerritory(typed, TerritoryRounding::Number);
     if (!t) {
         return Refusal{std::string(terms.Building) +
                        " requires a valid territory number (1-42).\rNo transaction was made."};

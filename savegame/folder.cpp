@@ -6,6 +6,7 @@
 
 #include "savegame/format.h"
 #include "savegame/game_name.h"
+#include "state/text.h"
 
 namespace vorlund {
 namespace {

@@ -7,6 +7,7 @@
 
 #include "savegame/layout.h"
 #include "savegame/windows1252.h"
+#include "state/text.h"
 #include "state/typed_number.h"
 
 namespace vorlund {
@@ -14,11 +15,6 @@ namespace {
 
 bool NeedsQuotes(std::string_view bytes) {
     return bytes.starts_with(' ') || bytes.find(',') != std::string_view::npos;
-}
-
-bool IsControl(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < 0x20 || byte == 0x7F;
 }
 
 struct Writer {
@@ -52,13 +48,8 @@ std::vector<std::string_view> SplitIntoLines(std::string_view bytes) {
     return lines;
 }
 
-std::string_view WithoutBlanksAround(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
 std::optional<int> ReadInteger(std::string_view line) {
-    line = WithoutBlanksAround(line);
+    line = Trimmed(line);
     if (line.find_first_not_of("0123456789+-") != std::string_view::npos) {
         return std::nullopt;  // from_chars is only sure of itself with ASCII
     }
@@ -76,9 +67,7 @@ std::optional<int> ReadInteger(std::string_view line) {
 
 /// "True" or "False" in any mix of case, or a number, of which only 0 is false.
 std::optional<bool> ReadBoolean(std::string_view line) {
-    std::string word(WithoutBlanksAround(line));
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    std::transform(word.begin(), word.end(), word.begin(), lower);
+    const std::string word = LowerCase(Trimmed(line));
     if (word == "true" || word == "false") {
         return word == "true";
     }
@@ -239,7 +228,8 @@ std::variant<GameState, BadFile> ReadGame(const GameState& fresh, std::string_vi
 bool NameReadsBack(std::string_view utf8Name) {
     const auto bytes = ToWindows1252(utf8Name);
     if (!bytes || bytes->empty() || bytes->size() > MaxNameLength ||
-        std::any_of(bytes->begin(), bytes->end(), IsControl)) {
+        std::any_of(bytes->begin(), bytes->end(),
+                    [](char c) { return IsAsciiControl(static_cast<unsigned char>(c)); })) {
         return false;
     }
     return NeedsQuotes(*bytes) ? bytes->find('"') == std::string::npos : !bytes->starts_with('"');

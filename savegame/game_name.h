@@ -12,10 +12,6 @@ namespace vorlund {
 /// of \ / : * ? " < > | or a control character. Nothing when it can. A name of blanks can be used.
 std::optional<std::string> WhyNoGameName(std::string_view typedName);
 
-/// `text` with its Latin, Greek and Cyrillic capitals made small, as far as they have one counterpart each;
-/// all other characters stay, and so does a text that is not UTF-8.
-std::string LowerCase(std::string_view text);
-
 /// The file of the game `typedName`: without the blanks around it, in lower case, and with ".vrs" behind.
 std::string FileNameOf(std::string_view typedName);
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "savegame/utf8.h"
+#include "state/utf8.h"
 
 namespace vorlund {
 namespace {

@@ -1,9 +1,9 @@
 #include "setup/new_game.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "savegame/format.h"
+#include "state/text.h"
 
 namespace vorlund {
 namespace {
@@ -22,10 +22,8 @@ std::optional<NamesRefusal> RefuseRows(std::span<const std::string> names, Predi
     return refusal.Beeps > 0 ? std::optional(refusal) : std::nullopt;
 }
 
-bool MeansComputer(std::string name) {
-    // Only English letters count, whatever the locale.
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+bool MeansComputer(std::string_view typedName) {
+    const std::string name = LowerCase(typedName);
     return name == "computer" || name == "comp";
 }
 

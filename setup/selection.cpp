@@ -62,8 +62,7 @@ std::string Selection::Open() {
 }
 
 Selection::Step Selection::Entr(std::string_view typed) {
-    const auto number = ReadNumber(typed);
-    const auto t = number && IsTerritoryNumber(*number) ? TerritoryIndex(*number) : std::nullopt;
+    const auto t = ReadTerritory(typed, TerritoryRounding::IndexInRange);
     if (!t) {
         return Reject("Invalid territory selection.");
     }

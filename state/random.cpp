@@ -5,17 +5,14 @@
 
 namespace vorlund {
 
-int Random::Draw(int n) {
-    // In double precision, where u * n cannot round up to n.
-    return static_cast<int>(std::floor(static_cast<double>(Uniform()) * n));
+int ClockRandom::Draw(int faces) {
+    // The 24 high bits are all that single precision holds without rounding up to 1.
+    const float u = static_cast<float>(engine_() >> 8U) * 0x1p-24F;
+    // In double precision, where u * faces cannot round up to faces.
+    return static_cast<int>(std::floor(static_cast<double>(u) * faces));
 }
 
-float ClockRandom::Uniform() {
-    // The 24 high bits, all that a float holds without rounding up to 1.
-    return static_cast<float>(engine_() >> 8U) * 0x1p-24F;
-}
-
-void ClockRandom::Reseed() {
+void ClockRandom::SeedFromClock() {
     const auto now = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
     std::seed_seq seed{static_cast<std::uint32_t>(now & 0xFFFFFFFFU), static_cast<std::uint32_t>(now >> 32U),
                        ++reseedings_};

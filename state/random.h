@@ -5,35 +5,35 @@
 
 namespace vorlund {
 
-/// The game's chance. Rules take it as an argument, so that a written-out script of values can stand in.
+/// The game's chance. Rules take it as an argument, so that a script of rolls can stand in.
 class Random {
 public:
     virtual ~Random() = default;
 
-    /// The next uniform value u, 0 <= u < 1, in single precision.
-    virtual float Uniform() = 0;
+    /// One throw of a die with `faces` >= 0 faces: 0 to `faces` - 1, each as likely; 0 without a face.
+    virtual int Draw(int faces) = 0;
 
     /// Starts a new sequence from the clock.
     virtual void Reseed() = 0;
-
-    /// A draw over n >= 0: the largest whole number not above u * n for a fresh u, 0 to n - 1; over 0 it is
-    /// 0.
-    int Draw(int n);
 };
 
 /// The generator of the running game. Two reseedings within one tick of the clock still give different
 /// sequences, for a counter goes into the seed as well.
-class ClockRandom final : public Random {
+class ClockRandom : public Random {
 public:
-    ClockRandom() { Reseed(); }
+    ClockRandom() { SeedFromClock(); }
 
     /// A fixed first sequence, for programs that must be able to play a game again.
     explicit ClockRandom(std::uint32_t seed) : engine_(seed) {}
 
-    float Uniform() override;
-    void Reseed() override;
+    /// The largest whole number not above u * `faces` for the next uniform u, 0 <= u < 1, in single
+    /// precision.
+    int Draw(int faces) override;
+    void Reseed() override { SeedFromClock(); }
 
 private:
+    void SeedFromClock();
+
     std::mt19937 engine_;
     std::uint32_t reseedings_ = 0;
 };

@@ -5,17 +5,10 @@
 
 #include "state/game_state.h"
 #include "state/int16.h"
+#include "state/text.h"
 
 namespace vorlund {
 namespace {
-
-std::string_view WithoutBlanksAround(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 std::optional<std::int16_t> WholeToInt16(double whole) {
     if (!(whole >= std::numeric_limits<std::int16_t>::min() &&
@@ -28,7 +21,7 @@ std::optional<std::int16_t> WholeToInt16(double whole) {
 }  // namespace
 
 std::optional<double> ReadNumber(std::string_view text) {
-    text = WithoutBlanksAround(text);
+    text = Trimmed(text);
     if (!text.empty() && text.front() == '+') {
         text.remove_prefix(1);
         if (!text.empty() && text.front() == '-') {
@@ -64,12 +57,19 @@ std::optional<std::int16_t> CutToInt16(double value) {
     return WholeToInt16(std::floor(value));
 }
 
-bool IsTerritoryNumber(double number) {
-    return number >= 1 && number <= NumTerritories;
-}
-
-std::optional<std::int16_t> TerritoryIndex(double number) {
-    return RoundToInt16(number - 1);
+std::optional<int> ReadTerritory(std::string_view text, TerritoryRounding rounding) {
+    const std::optional<double> number = ReadNumber(text);
+    const bool inRange = number && *number >= 1 && *number <= NumTerritories;
+    if (!number || (rounding == TerritoryRounding::IndexInRange && !inRange)) {
+        return std::nullopt;
+    }
+    const bool roundsNumber = rounding == TerritoryRounding::Number;
+    const auto rounded = RoundToInt16(roundsNumber ? *number : *number - 1);
+    if (!rounded) {
+        return std::nullopt;
+    }
+    const int index = roundsNumber ? *rounded - 1 : *rounded;
+    return index >= 0 && index < NumTerritories ? std::optional(index) : std::nullopt;
 }
 
 }  // namespace vorlund

@@ -23,12 +23,16 @@ std::optional<std::int16_t> RoundToInt16(double value);
 /// 16 bits.
 std::optional<std::int16_t> CutToInt16(double value);
 
-/// True when `number` names a territory, 1 to 42; fractions in between count.
-bool IsTerritoryNumber(double number);
+/// How a number with a fraction names a territory. The rules differ in what they round, halves to the even
+/// neighbour, and so in which numbers around 1 and 42 still count.
+enum class TerritoryRounding {
+    IndexInRange,  ///< 1 to 42 as typed, then the index: 42.4 is none (buying, selling, strike, selection)
+    Index,         ///< the index alone: .5 is territory 1, 42.4 is territory 42 (transport, attack)
+    Number         ///< the number: .6 is territory 1, 42.5 is territory 42, 1.5 is 2 (construction)
+};
 
-/// The index of the territory that `number` names: one less, rounded to a whole number with halves going to
-/// the even neighbour. Nothing when that does not fit 16 bits; a number outside 1 to 42 gives an index
-/// outside 0 to 41.
-std::optional<std::int16_t> TerritoryIndex(double number);
+/// The index of the territory whose number a player has typed; nothing when the text is no number or names
+/// none of the 42.
+std::optional<int> ReadTerritory(std::string_view text, TerritoryRounding rounding);
 
 }  // namespace vorlund

@@ -77,7 +77,7 @@ TEST(ReadGame, IsPatientWithFormsAndRefusesABadFileWithItsLine) {
         {2, " 3 |", "2: AttacksLeft of Player 1 must be a whole number from 0 to 2."},
         {3, "false| FALSE | 0.0 |", ""},
         {3, "Yes|", "3: IsDead of Player 1 must be True or False."},
-        {3, "True|2|", "3: Player 1 owns territories and must be alive."},
+        {3, "True|2|-1 |", "3: Player 1 owns territories and must be alive."},
         {4, "-1 |", "4: DebtTurns of Player 1 must be a whole number from 0 to 32767."},
         {8, "  -045  |", ""},
         {8, "+12|", "Anna Money 12"},
@@ -129,9 +129,15 @@ TEST(GameName, GivesTheFileOrIsRefused) {
     EXPECT_EQ(WhyNoGameName("100%&'~.."), std::nullopt);
     EXPECT_EQ(FileNameOf("  MY 100%&'~.. "), "my 100%&'~...vrs");
     EXPECT_EQ(FileNameOf("   "), ".vrs");
-    EXPECT_EQ(FileNameOf("\u00C4P\u00DF\u00D7\u0160\u0178\u0152\u0139"),
-              "\u00E4p\u00DF\u00D7\u0161\u00FF\u0153\u013A.vrs");
-    EXPECT_EQ(FileNameOf("\u03A9\u0416\u0401\U0001F600A"), "\u03C9\u0436\u0451\U0001F600a.vrs");
+    // The ends of each run of capitals, and what lies between the runs
+    EXPECT_EQ(FileNameOf(
+                  "@AZ[\u00C0\u00D6\u00D7\u00D8\u00DE\u00DF\u0100\u0101\u012E\u0130\u0131\u0132\u0136\u0138"),
+              "@az[\u00E0\u00F6\u00D7\u00F8\u00FE\u00DF\u0101\u0101\u012F\u0130\u0131\u0133\u0137\u0138.vrs");
+    EXPECT_EQ(FileNameOf("\u0139\u0147\u0149\u014A\u0176\u0178\u0179\u017D\u017F\U0001F600A"),
+              "\u013A\u0148\u0149\u014B\u0177\u00FF\u017A\u017E\u017F\U0001F600a.vrs");
+    EXPECT_EQ(
+        FileNameOf("\u0388\u038A\u038B\u0391\u03A1\u03A2\u03A3\u03AB\u03AC\u0400\u040F\u0410\u042F\u0430"),
+        "\u03AD\u03AF\u038B\u03B1\u03C1\u03A2\u03C3\u03CB\u03AC\u0450\u045F\u0430\u044F\u0430.vrs");
     EXPECT_EQ(WhyNoGameName(""), "Enter an identifiable game name to open at a later time.");
     for (const char* const name :
          {"\\", "a/b", ":", "a*", "?", "\"a", "<a", "a>", "|", "\n", "a\x7F", "\u0085", "\xC3(", "\xC3",

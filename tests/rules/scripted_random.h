@@ -9,8 +9,8 @@
 
 namespace vorlund {
 
-/// Chance from a script: "2/5 0/12" makes a draw over 5 give 2, then one over 12 give 0. The test fails when
-/// a roll is missing or left over.
+/// Chance from a script: "2/5 0/12" makes a die with 5 faces show 2, then one with 12 show 0. The test fails
+/// when the rules throw another die, and when a roll is missing or left over.
 class ScriptedRandom final : public Random {
 public:
     explicit ScriptedRandom(const std::string& script) : script_(script) {}
@@ -21,12 +21,13 @@ public:
 
     int Reseedings = 0;
 
-    float Uniform() override {
-        float result = 0;
-        float faces = 1;
+    int Draw(int faces) override {
+        int result = 0;
+        int scripted = 0;
         char slash = 0;
-        EXPECT_TRUE(script_ >> result >> slash >> faces) << "a roll is missing";
-        return (result + 0.5F) / faces;
+        EXPECT_TRUE(script_ >> result >> slash >> scripted) << "a roll is missing";
+        EXPECT_EQ(faces, scripted) << "faces of the die";
+        return result;
     }
     void Reseed() override { ++Reseedings; }
 

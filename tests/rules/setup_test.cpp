@@ -70,16 +70,17 @@ TEST(Selection, HumansSelectInTurnThenComputersAwayFromEverybody) {
               "CompPlayer4 Factories 1 Money 9000 Oil 9000 Troops 10");
 }
 
-TEST(ClockRandom, IsUniformBelowOneAndNeverRepeatsOnReseeding) {
+TEST(ClockRandom, IsUniformAndNeverRepeatsOnReseeding) {
     ClockRandom random;
-    std::set<float> firsts;
+    std::set<int> firsts;
     float sum = 0;
     for (int i = 0; i < 100; ++i) {
         random.Reseed();
-        sum += *firsts.insert(random.Uniform()).first;
+        sum += static_cast<float>(*firsts.insert(random.Draw(1 << 24)).first);
     }
     EXPECT_EQ(firsts.size(), 100U);
-    EXPECT_NEAR(sum, 50, 15);
+    EXPECT_NEAR(sum / (1 << 24), 50, 15);
+    EXPECT_EQ(random.Draw(0), 0);
 }
 
 TEST(Consistent, FindsEachBrokenRecord) {

@@ -18,9 +18,9 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 namespace vorlund {
 
-/// Chance that says 0 always: no draw over more than one face ever gives the 2 that research needs.
+/// Chance that says 0 always: no die ever shows the 2 that research needs.
 struct NoLuck final : Random {
-    float Uniform() override { return 0; }
+    int Draw(int) override { return 0; }
     void Reseed() override {}
 };
 

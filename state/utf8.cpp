@@ -1,4 +1,4 @@
-#include "savegame/utf8.h"
+#include "state/utf8.h"
 
 #include <bit>
 
