@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QListWidget>
 #include <QScrollBar>
@@ -189,6 +190,23 @@ TEST(Controls, SavedGamesAreListedDeletedAndRefused) {
     EXPECT_EQ(Desktop(), "Vorlund - Load Game");
     Click("frmLoad", "lblGo(2)");
     EXPECT_EQ(Desktop(), "Vorlund");
+}
+
+TEST(Controls, ACharacterThatTheFieldCutsInHalfIsRefused) {
+    QGuiApplication::clipboard()->setText("eleven char\U0001F600");  // the last one takes two places
+    {
+        Sitting game;
+        game.Resume(AnnaAndBen());
+        Type("v");
+        Press(Qt::Key_V, Qt::ControlModifier);
+        game.Expect({"Warning: A character of the game name was cut in half.\nEnter the name again."});
+        Type("\n");
+    }
+    Sitting newGame;
+    Type(" \n");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    Type("\t\tBen\n");
+    EXPECT_EQ(Text("frm2", "lbl1"), "Player 1's name cannot be saved; enter another.");
 }
 
 TEST(Controls, ADoubleClickLoadsWhenTheButtonIsLetGo) {
