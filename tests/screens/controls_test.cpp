@@ -1,11 +1,13 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QHelpEvent>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
 #include <QWindow>
+#include <cerrno>
 
 #include "tests/rules/small_worlds.h"
 #include "tests/screens/hands.h"
@@ -188,6 +190,36 @@ TEST(Controls, SavedGamesAreListedDeletedAndRefused) {
     Press(Qt::Key_Down);
     Type("\n");  // nothing either: it has gone
     EXPECT_EQ(Desktop(), "Vorlund - Load Game");
+    Click("frmLoad", "lblGo(2)");
+    EXPECT_EQ(Desktop(), "Vorlund");
+}
+
+TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    EXPECT_TRUE(QDir(sitting.Saves()).mkdir("a.vrs"));
+    sitting.Expect({"Warning: The game 'a.vrs' could not be saved.\nThere is a folder of that name."});
+    Type("va\n");
+    EXPECT_EQ(Text("frmSave", "txtSave"), "a");
+    SystemCalls calls = RealSystemCalls();
+    const auto fails = [](const auto&) {
+        errno = EIO;
+        return -1;
+    };
+    calls.OpenFolder = fails;
+    calls.SyncFileSystem = fails;
+    sitting.Run().saves() = SavedGamesFolder(sitting.Saves().toStdString(), calls);
+    sitting.Expect(
+        {"Warning: Game 'ab.vrs' saved, but a power cut now could still lose it.\nInput/output error."});
+    Type("b\n");
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [bsrautev]");
+}
+
+TEST(Controls, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
+    Sitting sitting;
+    sitting.Run().saves() = SavedGamesFolder("/dev/null");
+    sitting.Expect({"Warning: The saved games could not be listed.\nNot a directory."});
+    Click("frm1", "lblLoad");
     Click("frmLoad", "lblGo(2)");
     EXPECT_EQ(Desktop(), "Vorlund");
 }
