@@ -21,7 +21,10 @@ std::optional<std::string> WhyNoGameName(std::string_view typedName) {
     const auto isUnusable = [](char32_t c) {
         return IsControl(c) || Forbidden.find(c) != std::u32string_view::npos;
     };
-    if (!characters || std::any_of(characters->begin(), characters->end(), isUnusable)) {
+    if (!characters) {
+        return "A character of the game name was cut in half.\rEnter the name again.";
+    }
+    if (std::any_of(characters->begin(), characters->end(), isUnusable)) {
         return "A game name cannot hold a control character or any of these:\r\\ / : * ? \" < > |";
     }
     return std::nullopt;
@@ -37,6 +40,10 @@ bool IsSavedGameFile(std::string_view file) {
 
 std::string SavedText(std::string_view file) {
     return "Game '" + std::string(file) + "' properly saved.";
+}
+
+std::string DoubtfullySavedText(std::string_view file) {
+    return "Game '" + std::string(file) + "' saved, but a power cut now could still lose it.";
 }
 
 std::string DeleteQuestion(std::string_view file) {

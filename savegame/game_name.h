@@ -9,7 +9,8 @@ namespace vorlund {
 // The name that the player gives to a saved game, UTF-8 throughout, and what the screens say about it.
 
 /// Why no game can be saved under `typedName`, as a text for the player: nothing was typed, or it holds one
-/// of \ / : * ? " < > | or a control character. Nothing when it can. A name of blanks can be used.
+/// of \ / : * ? " < > |, a control character or no whole character. Nothing when it can. A name of blanks can
+/// be used.
 std::optional<std::string> WhyNoGameName(std::string_view typedName);
 
 /// The file of the game `typedName`: without the blanks around it, in lower case, and with ".vrs" behind.
@@ -24,6 +25,9 @@ inline constexpr const char* NotSavedText = "Game not saved...\rChoose a differe
 
 /// "Game 'mygame.vrs' properly saved."
 std::string SavedText(std::string_view file);
+
+/// "Game 'mygame.vrs' saved, but a power cut now could still lose it."
+std::string DoubtfullySavedText(std::string_view file);
 
 /// "Are you sure you want to delete the game mygame.vrs?"
 std::string DeleteQuestion(std::string_view file);

@@ -2,10 +2,13 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
+#include <array>
+#include <climits>
+#include <csignal>
 #include <cstdio>
 
 namespace vorlund {
@@ -14,10 +17,35 @@ namespace {
 constexpr mode_t FileMode = 0666;
 constexpr mode_t FolderMode = 0700;
 
-int IsPlainFile(const std::string& path) {
+FileKind KindOf(mode_t mode) {
+    return S_ISREG(mode)    ? FileKind::File
+           : S_ISDIR(mode)  ? FileKind::Folder
+           : S_ISFIFO(mode) ? FileKind::Pipe
+           : S_ISSOCK(mode) ? FileKind::Socket
+                            : FileKind::Device;
+}
+
+int Look(const std::string& path, FileKind& kind) {
     struct stat about {};
     const int result = stat(path.c_str(), &about);
-    return result == 0 ? (S_ISREG(about.st_mode) ? 1 : 0) : result;
+    kind = KindOf(about.st_mode);
+    return result;
+}
+
+int IsNamed(int file, const std::string& path) {
+    struct stat open {};
+    struct stat named {};
+    if (fstat(file, &open) == -1 || lstat(path.c_str(), &named) == -1) {
+        return errno == ENOENT ? 0 : -1;
+    }
+    return open.st_dev == named.st_dev && open.st_ino == named.st_ino ? 1 : 0;
+}
+
+int ReadLink(const std::string& path, std::string& target) {
+    std::array<char, PATH_MAX> buffer{};
+    const ssize_t size = readlink(path.c_str(), buffer.data(), buffer.size());
+    target.assign(buffer.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
+    return size == -1 ? -1 : 0;
 }
 
 int ListFolder(const std::string& path, std::vector<std::string>& names) {
@@ -25,6 +53,7 @@ int ListFolder(const std::string& path, std::vector<std::string>& names) {
     if (folder == nullptr) {
         return -1;
     }
+    names.clear();
     errno = 0;
     while (const dirent* const entry = readdir(folder)) {
         names.emplace_back(entry->d_name);
@@ -35,30 +64,37 @@ int ListFolder(const std::string& path, std::vector<std::string>& names) {
     return error == 0 ? 0 : -1;
 }
 
+auto Opener(int flags) {
+    // A pipe of that name must not keep the game waiting.
+    return [flags](const std::string& path) {
+        return open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, FileMode);
+    };
+}
+
 }  // namespace
 
 SystemCalls RealSystemCalls() {
+    std::signal(SIGXFSZ, SIG_IGN);
     SystemCalls calls;
-    calls.OpenForReading = [](const std::string& path) {
-        // A pipe of that name must not keep the game waiting.
-        return open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    };
-    calls.CreateNew = [](const std::string& path) {
-        return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, FileMode);
-    };
-    calls.OpenFolder = [](const std::string& path) {
-        return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    };
+    calls.Process = getpid();
+    calls.OpenForReading = Opener(O_RDONLY);
+    calls.CreateNew = Opener(O_WRONLY | O_CREAT | O_EXCL);
+    calls.OpenForLocking = Opener(O_RDWR | O_NOFOLLOW);
+    calls.OpenFolder = Opener(O_RDONLY | O_DIRECTORY);
     calls.Read = [](int file, char* into, std::size_t size) { return read(file, into, size); };
     calls.Write = [](int file, const char* from, std::size_t size) { return write(file, from, size); };
-    calls.Sync = [](int file) { return fsync(file); };
-    calls.Close = [](int file) { return close(file); };
+    calls.Sync = fsync;
+    calls.SyncFileSystem = syncfs;
+    calls.Close = close;
+    calls.Lock = [](int file) { return flock(file, LOCK_EX | LOCK_NB); };
+    calls.IsNamed = IsNamed;
     calls.Rename = [](const std::string& from, const std::string& to) {
         return std::rename(from.c_str(), to.c_str());
     };
     calls.Unlink = [](const std::string& path) { return unlink(path.c_str()); };
     calls.MakeFolder = [](const std::string& path) { return mkdir(path.c_str(), FolderMode); };
-    calls.IsPlainFile = IsPlainFile;
+    calls.Look = Look;
+    calls.ReadLink = ReadLink;
     calls.ListFolder = ListFolder;
     return calls;
 }

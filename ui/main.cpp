@@ -1,7 +1,8 @@
 #include <QApplication>
-#include <QStandardPaths>
 #include <array>
+#include <utility>
 
+#include "ui/machine/data_folder.h"
 #include "ui/machine/single_copy.h"
 #include "ui/machine/sound.h"
 #include "ui/parts/accessible.h"
@@ -9,6 +10,8 @@
 #include "ui/program.h"
 
 int main(int, char** arguments) {
+    // First, because it makes a file size limit harmless, and fonts and lock write files too
+    vorlund::SavedGamesFolder saves(vorlund::DataFolder() + "/vorlund");
     // The game has no command line, so the toolkit gets none either.
     int count = 1;
     std::array<char*, 2> name{arguments[0], nullptr};
@@ -24,11 +27,8 @@ int main(int, char** arguments) {
     vorlund::HeldKeys heldKeys;
     qApp->installEventFilter(&heldKeys);
     vorlund::DescribeScreensToAssistiveTechnology();
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     vorlund::Sound sound;
-    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(),
-                             vorlund::SavedGamesFolder((data + QStringLiteral("/vorlund")).toStdString()),
-                             sound);
+    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), std::move(saves), sound);
     program.Start();
     return QApplication::exec();
 }

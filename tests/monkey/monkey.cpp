@@ -56,7 +56,7 @@ class Monkey : public QObject {
 public:
     explicit Monkey(int seed) : seed_(seed), mind_(static_cast<std::uint32_t>(seed)) {
         for (char name = 'a'; name <= 'l'; ++name) {  // as many as there is room for in the list
-            program_.saves().Save(std::string(1, name) + ".vrs", RandomPosition(mind_));
+            program_.saves().Save(std::string(1, name) + ".vrs", RandomPosition(mind_), true);
         }
         QFile(folder_.filePath(QStringLiteral("0 empty.vrs"))).open(QIODevice::WriteOnly);
         QGuiApplication::clipboard()->clear();

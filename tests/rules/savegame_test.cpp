@@ -1,13 +1,9 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <numeric>
-#include <system_error>
 
-#include "savegame/folder.h"
 #include "savegame/format.h"
 #include "savegame/game_name.h"
 #include "savegame/windows1252.h"
@@ -140,136 +136,15 @@ TEST(GameName, GivesTheFileOrIsRefused) {
         "\u03AD\u03AF\u038B\u03B1\u03C1\u03A2\u03C3\u03CB\u03AC\u0450\u045F\u0430\u044F\u0430.vrs");
     EXPECT_EQ(WhyNoGameName(""), "Enter an identifiable game name to open at a later time.");
     for (const char* const name :
-         {"\\", "a/b", ":", "a*", "?", "\"a", "<a", "a>", "|", "\n", "a\x7F", "\u0085", "\xC3(", "\xC3",
-          "\xC1\x81", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\x80", "\xE2\x82"}) {
+         {"\\", "a/b", ":", "a*", "?", "\"a", "<a", "a>", "|", "\n", "a\x7F", "\u0085"}) {
         EXPECT_EQ(WhyNoGameName(name),
                   "A game name cannot hold a control character or any of these:\r\\ / : * ? \" < > |");
     }
-}
-
-/// Stands between the saved games and the system, looks on before each call and makes one of them fail.
-struct Meddler {
-    std::size_t FailAt = 0;  ///< which call, counted from 1
-    int Error = 0;           ///< and how
-    std::size_t BytesAtOnce = MaxSavedGameBytes;
-    std::function<void()> Before = [] {};
-    std::string Names{};  ///< of the calls so far, a letter each
-
-    SystemCalls Calls() {
-        SystemCalls calls = RealSystemCalls();
-        const auto wrapAll = [this](const char* name, auto&... call) { (Wrap(call, *name++), ...); };
-        wrapAll("onfrwscmud", calls.OpenForReading, calls.CreateNew, calls.OpenFolder, calls.Read,
-                calls.Write, calls.Sync, calls.Close, calls.Rename, calls.Unlink, calls.MakeFolder);
-        return calls;
+    for (const char* const half :
+         {"\xC3(", "\xC3", "\xC1\x81", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\x80", "\xE2\x82"}) {
+        EXPECT_EQ(WhyNoGameName(half),
+                  "A character of the game name was cut in half.\rEnter the name again.");
     }
-
-    template <typename Result, typename... Arguments>
-    void Wrap(std::function<Result(Arguments...)>& call, char name) {
-        call = [this, name, real = call](Arguments... arguments) -> Result {
-            Before();
-            Names += name;
-            if constexpr (sizeof...(Arguments) == 3) {  // reading and writing
-                auto& size = std::get<2>(std::tie(arguments...));
-                size = std::min(size, BytesAtOnce);
-            }
-            errno = Error;
-            return Names.size() == FailAt ? -1 : real(arguments...);
-        };
-    }
-};
-
-const std::string Old = WriteGame(NewGame(2, Sample));
-const std::string New = WriteGame(NewGame(3, "1 Anna 10/3F; 9 Ben 2/1; 20 Cleo 0/0"));
-
-std::string CouldNot(const char* what, int error) {
-    return std::string("The game 'my.vrs' could not be ") + what + ".\r" +
-           std::generic_category().message(error) + ".";
-}
-
-struct SavedGames : testing::Test {
-    SavedGames() {
-        fs::create_directories(path);
-        Put("my.vrs", Old);
-        Put("unfinished.tmp", "what a crash has left");
-    }
-    ~SavedGames() override { fs::remove_all(path.parent_path()); }
-
-    void Put(const char* file, const std::string& bytes) const {
-        std::ofstream(path / file, std::ios::binary) << bytes;
-    }
-
-    /// The new game saved over `old`, or into no folder. At every moment the file is one or the other.
-    std::optional<std::string> Save(Meddler& meddler, const std::string& old) {
-        old.empty() ? void(fs::remove_all(path.parent_path())) : Put("my.vrs", old);
-        const SavedGamesFolder folder(path, meddler.Calls());
-        meddler.Before = [&] {
-            const std::string content = Content(path / "my.vrs");
-            EXPECT_TRUE(folder.List().size() <= 1 && (content == New || content == old));
-        };
-        auto error = folder.Save("my.vrs", std::get<GameState>(ReadGame(FreshGame(), New)));
-        meddler.Before();
-        EXPECT_TRUE(error || Content(path / "my.vrs") == New);
-        EXPECT_TRUE(meddler.FailAt == 1 || !fs::exists(path / "unfinished.tmp"));
-        return error;
-    }
-
-    const fs::path path = fs::temp_directory_path() / ("vorlund-" + std::to_string(getpid())) / "saves";
-};
-
-TEST_F(SavedGames, AreTheOldOneOrTheNewOneWhateverCallFails) {
-    for (const std::string& old : {Old, std::string()}) {
-        for (std::size_t place = 1, calls = 1; place <= calls; ++place) {
-            for (const int error : {ENOSPC, EACCES, EINTR}) {
-                Meddler meddler{place, error};
-                const auto message = Save(meddler, old);
-                calls = meddler.Names.size();
-                EXPECT_EQ(message.value_or(CouldNot("saved", error)), CouldNot("saved", error));
-                // An interrupted call is made again. Only flushing the parents of a new folder fails unsaid.
-                EXPECT_TRUE(message ? error != EINTR : error == EINTR || old.empty()) << place;
-            }
-        }
-    }
-    Meddler slow{0, 0, 1000};
-    EXPECT_EQ(Save(slow, Old), std::nullopt);
-    EXPECT_EQ(slow.Names, "unwwwscmfsc") << "not the whole new file first, and its new name afterwards";
-    Meddler stuck{0, 0, 0};
-    EXPECT_EQ(Save(stuck, Old), CouldNot("saved", EIO));
-    Meddler cannotFlushFolders{8, EINVAL};
-    EXPECT_EQ(Save(cannotFlushFolders, Old), std::nullopt);
-    GameState game = NewGame(2, Sample);
-    game.Players[1].Name = "\u0416";
-    EXPECT_EQ(SavedGamesFolder(path).Save("my.vrs", game),
-              "The game 'my.vrs' could not be saved.\rIt would not read back as it is.");
-}
-
-TEST_F(SavedGames, AreListedInOrderAndDeletedOneByOne) {
-    for (const char* const name :
-         {"zoo.vrs", "Beta.vrs", "alpha.vrs", ".vrs", "GAME.VRS", "a.vrs.bak", "*.vrs"}) {
-        Put(name, "");
-    }
-    fs::create_directory(path / "folder.vrs");
-    const SavedGamesFolder folder(path);
-    EXPECT_EQ(folder.Delete("*.vrs"), std::nullopt);
-    EXPECT_EQ(folder.Delete("my.vrs"), std::nullopt);
-    EXPECT_EQ(folder.Delete("my.vrs"), CouldNot("deleted", ENOENT));
-    EXPECT_EQ(folder.List(), (std::vector<std::string>{".vrs", "alpha.vrs", "Beta.vrs", "zoo.vrs"}));
-    EXPECT_EQ(SavedGamesFolder(path / "none").List(), std::vector<std::string>{});
-}
-
-TEST_F(SavedGames, AreLoadedOrSayWhyNot) {
-    const auto load = [&](Meddler meddler) {
-        const auto result = SavedGamesFolder(path, meddler.Calls()).Load("my.vrs", FreshGame());
-        EXPECT_LT(meddler.Names.size(), 80U) << "the rest of a large file is left alone";
-        const auto* const error = std::get_if<LoadError>(&result);
-        return error != nullptr ? error->Message : WriteGame(std::get<GameState>(result));
-    };
-    Put("my.vrs", New + std::string(1 << 20, 'x'));
-    EXPECT_EQ(load({3, EINTR, 1000}), New);
-    EXPECT_EQ(load({1, EIO}), CouldNot("loaded", EIO));
-    EXPECT_EQ(load({2, EIO}), CouldNot("loaded", EIO));
-    Put("my.vrs", "");
-    EXPECT_EQ(load({}),
-              "The game 'my.vrs' could not be loaded.\rLine 1: The file ends before NumPlayers of the game.");
 }
 
 }  // namespace

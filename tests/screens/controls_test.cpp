@@ -1,10 +1,13 @@
 #include <QApplication>
+#include <QClipboard>
+#include <QDir>
 #include <QHelpEvent>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
 #include <QWindow>
+#include <cerrno>
 
 #include "tests/rules/small_worlds.h"
 #include "tests/screens/hands.h"
@@ -189,6 +192,53 @@ TEST(Controls, SavedGamesAreListedDeletedAndRefused) {
     EXPECT_EQ(Desktop(), "Vorlund - Load Game");
     Click("frmLoad", "lblGo(2)");
     EXPECT_EQ(Desktop(), "Vorlund");
+}
+
+TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    EXPECT_TRUE(QDir(sitting.Saves()).mkdir("a.vrs"));
+    sitting.Expect({"Warning: The game 'a.vrs' could not be saved.\nThere is a folder of that name."});
+    Type("va\n");
+    EXPECT_EQ(Text("frmSave", "txtSave"), "a");
+    SystemCalls calls = RealSystemCalls();
+    const auto fails = [](const auto&) {
+        errno = EIO;
+        return -1;
+    };
+    calls.OpenFolder = fails;
+    calls.SyncFileSystem = fails;
+    sitting.Run().saves() = SavedGamesFolder(sitting.Saves().toStdString(), calls);
+    sitting.Expect(
+        {"Warning: Game 'ab.vrs' saved, but a power cut now could still lose it.\nInput/output error."});
+    Type("b\n");
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [bsrautev]");
+}
+
+TEST(Controls, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
+    Sitting sitting;
+    sitting.Run().saves() = SavedGamesFolder("/dev/null");
+    sitting.Expect({"Warning: The saved games could not be listed.\nNot a directory."});
+    Click("frm1", "lblLoad");
+    Click("frmLoad", "lblGo(2)");
+    EXPECT_EQ(Desktop(), "Vorlund");
+}
+
+TEST(Controls, ACharacterThatTheFieldCutsInHalfIsRefused) {
+    QGuiApplication::clipboard()->setText("eleven char\U0001F600");  // the last one takes two places
+    {
+        Sitting game;
+        game.Resume(AnnaAndBen());
+        Type("v");
+        Press(Qt::Key_V, Qt::ControlModifier);
+        game.Expect({"Warning: A character of the game name was cut in half.\nEnter the name again."});
+        Type("\n");
+    }
+    Sitting newGame;
+    Type(" \n");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    Type("\t\tBen\n");
+    EXPECT_EQ(Text("frm2", "lbl1"), "Player 1's name cannot be saved; enter another.");
 }
 
 TEST(Controls, ADoubleClickLoadsWhenTheButtonIsLetGo) {

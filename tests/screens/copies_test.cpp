@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "tests/screens/hands.h"
+#include "ui/machine/data_folder.h"
 
 namespace vorlund {
 namespace {
@@ -43,6 +44,17 @@ TEST(Copies, OneStaysAndAnotherCanFollowIt) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return ofAnotherUser.HoldsTheLock(); }, Patience));
     ofAnotherUser.kill();
     ofAnotherUser.waitForFinished(Patience);
+}
+
+TEST(DataFolder, IsNamedByTheBytesOfTheEnvironment) {
+    qputenv("HOME", "/home/anna");
+    for (const auto& [set, folder] :
+         {std::pair("", "/home/anna/.local/share"), std::pair("here", "/home/anna/.local/share"),
+          std::pair("/d\xE4ta", "/d\xE4ta")}) {
+        qputenv("XDG_DATA_HOME", set);
+        EXPECT_EQ(DataFolder(), folder);
+    }
+    qunsetenv("XDG_DATA_HOME");
 }
 
 }  // namespace

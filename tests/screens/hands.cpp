@@ -78,7 +78,8 @@ Sitting::~Sitting() {
 }
 
 void Sitting::Put(const QString& file, const GameState& game) const {
-    EXPECT_FALSE(SavedGamesFolder(saves_.toStdString()).Save(file.toStdString(), game));
+    EXPECT_EQ(SavedGamesFolder(saves_.toStdString()).Save(file.toStdString(), game, true).Outcome,
+              SaveResult::Kind::Saved);
 }
 
 void Sitting::Resume(const GameState& game) {

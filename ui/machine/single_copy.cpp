@@ -1,7 +1,8 @@
 #include "ui/machine/single_copy.h"
 
 #include <QDir>
-#include <QStandardPaths>
+
+#include "ui/machine/data_folder.h"
 
 namespace vorlund {
 namespace {
@@ -11,7 +12,11 @@ QString LockPath() {
     // none.
     QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (folder.isEmpty() || !QDir(folder).exists()) {
-        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        const std::string data = DataFolder();
+        folder = QString::fromStdString(data);
+        if (folder.toStdString() != data) {
+            return {};  // there can be no lock in a folder whose name is not UTF-8
+        }
         QDir().mkpath(folder);
     }
     return folder + QStringLiteral("/vorlund.lock");

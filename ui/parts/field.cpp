@@ -30,6 +30,11 @@ void Field::TypeTerritory(int number) {
     (next_ != nullptr ? next_ : this)->setFocus();
 }
 
+std::string Field::Typed() const {
+    // The toolkit gives a question mark for half a character; this byte is in no UTF-8.
+    return text().toStdString() + (text().isValidUtf16() ? "" : "\xFF");
+}
+
 void Field::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (takesTerritories_) {

@@ -21,8 +21,9 @@ public:
     /// Types the number of a territory that was clicked, and moves the keyboard on to the next territory.
     void TypeTerritory(int number);
 
-    /// What has been typed, as UTF-8.
-    std::string Typed() const { return text().toStdString(); }
+    /// What has been typed, as UTF-8. It is none when it holds half a character, as what is left of a long
+    /// text that was pasted may.
+    std::string Typed() const;
 
 signals:
     void Entered();

@@ -38,7 +38,8 @@ frmLoad::frmLoad(Program& program)
 
 void frmLoad::FillList() {
     flb1_->clear();
-    for (const std::string& file : program_.saves().List()) {
+    const SavedGamesList list = program_.saves().List();
+    for (const std::string& file : list.Files) {
         // The name as it is on the disk goes along: not every name of bytes is one of characters.
         auto* item = new QListWidgetItem(QString::fromStdString(file), flb1_);
         item->setData(Qt::UserRole, QByteArray::fromStdString(file));
@@ -46,6 +47,11 @@ void frmLoad::FillList() {
     // Said to the view itself: otherwise the keyboard's coming makes the first game the current one without
     // selecting it, and an arrow key would step over it.
     flb1_->setCurrentIndex({});
+    if (list.Error) {
+        // Not before the window is there
+        QMetaObject::invokeMethod(
+            this, [this, why = *list.Error] { Exclaim(this, why); }, Qt::QueuedConnection);
+    }
 }
 
 std::optional<std::string> frmLoad::Selected() const {
@@ -69,11 +75,13 @@ void frmLoad::CallLoad(int index) {
 
 void frmLoad::Load() {
     const auto file = Selected();
-    const SavedGamesFolder& saves = program_.saves();
-    if (!file || !saves.FileExists(saves.PathOf(*file))) {
+    if (!file) {
         return;
     }
-    const auto loaded = saves.Load(*file, program_.game());
+    const auto loaded = program_.saves().Load(*file, program_.game());
+    if (std::holds_alternative<NoSuchGame>(loaded)) {
+        return;
+    }
     if (const auto* error = std::get_if<LoadError>(&loaded)) {
         Exclaim(this, error->Message);
         return;

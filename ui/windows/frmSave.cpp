@@ -32,24 +32,20 @@ void frmSave::Entr() {
         return;
     }
     const std::string file = FileNameOf(typed);
-    if (!MayWrite(file)) {
-        return;
+    using Kind = SaveResult::Kind;
+    SaveResult result = program().saves().Save(file, program().game(), false);
+    if (result.Outcome == Kind::AlreadyThere) {
+        if (!Ask(this, result.Message)) {
+            Inform(this, NotSavedText);
+            return;
+        }
+        result = program().saves().Save(file, program().game(), true);
     }
-    if (const auto error = program().saves().Save(file, program().game())) {
-        Exclaim(this, *error);
-        return;
+    const auto tell = result.Outcome == Kind::Saved ? Inform : Exclaim;
+    tell(this, result.Message);
+    if (result.Outcome != Kind::NotSaved) {
+        close();
     }
-    Inform(this, SavedText(file));
-    close();
-}
-
-bool frmSave::MayWrite(const std::string& file) {
-    const SavedGamesFolder& saves = program().saves();
-    if (!saves.FileExists(saves.PathOf(file)) || Ask(this, OverwriteQuestion)) {
-        return true;
-    }
-    Inform(this, NotSavedText);
-    return false;
 }
 
 }  // namespace vorlund

@@ -14,9 +14,6 @@ public:
 private:
     void Entr();
 
-    /// True when nothing is saved as `file` yet, or the player agrees to overwrite it.
-    bool MayWrite(const std::string& file);
-
     Field* txtSave_;
 };
 
