@@ -9,6 +9,12 @@
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
 
+namespace {
+
+constexpr int AnotherCopyRuns = 3;  // the exit status by which ./play knows, for the copy itself says nothing
+
+}  // namespace
+
 int main(int, char** arguments) {
     // The game has no command line, so the toolkit gets none either.
     int count = 1;
@@ -22,7 +28,7 @@ int main(int, char** arguments) {
 
     const vorlund::SingleCopy copy;
     if (copy.OtherIsRunning()) {
-        return 0;
+        return AnotherCopyRuns;
     }
     vorlund::HeldKeys heldKeys;
     qApp->installEventFilter(&heldKeys);
