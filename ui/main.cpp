@@ -9,6 +9,12 @@
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
 
+namespace {
+
+constexpr int AnotherCopyRuns = 3;  // the exit status by which ./play knows, for the copy itself says nothing
+
+}  // namespace
+
 int main(int, char** arguments) {
     // First, because it makes a file size limit harmless, and fonts and lock write files too
     vorlund::SavedGamesFolder saves(vorlund::DataFolder() + "/vorlund");
@@ -22,7 +28,7 @@ int main(int, char** arguments) {
 
     const vorlund::SingleCopy copy;
     if (copy.OtherIsRunning()) {
-        return 0;
+        return AnotherCopyRuns;
     }
     vorlund::HeldKeys heldKeys;
     qApp->installEventFilter(&heldKeys);

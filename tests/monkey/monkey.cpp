@@ -58,7 +58,9 @@ public:
         for (char name = 'a'; name <= 'l'; ++name) {  // as many as there is room for in the list
             program_.saves().Save(std::string(1, name) + ".vrs", RandomPosition(mind_), true);
         }
-        QFile(folder_.filePath(QStringLiteral("0 empty.vrs"))).open(QIODevice::WriteOnly);
+        if (!QFile(folder_.filePath(QStringLiteral("0 empty.vrs"))).open(QIODevice::WriteOnly)) {
+            GiveUp("no file can be written");
+        }
         QGuiApplication::clipboard()->clear();
     }
 

@@ -180,8 +180,8 @@ QString Text(const QString& window, const QString& control) {
 }
 
 QString ReportText() {
-    const QWidget& marker = Control("frmReport", "imgC");
-    return (marker.isVisible() ? "[" + marker.accessibleName() + "] " : QString()) +
+    const QWidget* const marker = &Control("frmReport", "imgC");
+    return (marker->isVisible() ? "[" + marker->accessibleName() + "] " : QString()) +
            Text("frmReport", "lbl1") + u'\n' + Text("frmReport", "lbl2");
 }
 
@@ -190,10 +190,10 @@ QString MapFault(const GameState& game) {
         return QString("%1 at %2,%3 ").arg(what).arg(x).arg(y);
     };
     const auto seen = [&at](const char* name, int t) {
-        const QWidget& part = Control("frm3", QString("%1(%2)").arg(name).arg(t));
-        const QString text = part.property("text").toString();
-        return part.isVisible() ? at(text.isEmpty() ? part.accessibleName() : text, part.x(), part.y())
-                                : QString();
+        const QWidget* const part = &Control("frm3", QString("%1(%2)").arg(name).arg(t));
+        const QString text = part->property("text").toString();
+        return part->isVisible() ? at(text.isEmpty() ? part->accessibleName() : text, part->x(), part->y())
+                                 : QString();
     };
     for (int t = 0; t < NumTerritories; ++t) {
         const Territory& land = game.TerritoryAt(t);
