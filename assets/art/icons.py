@@ -1,5 +1,5 @@
 """The program's icon and the one of its saved games. From 48 pixels up the drawing is
-scaled; the smaller ones are drawn anew on their own pixel grids."""
+scaled; the smaller ones are drawn anew on their own pixel grids, each with the letter and the marker alone."""
 from earth import Chart
 from ink import CREAM, ICONS, document, fill, rasterise, stroke
 
@@ -17,6 +17,15 @@ SMALL = {
     24: (4, 'M2 7H7.2L12 17 16.8 7H22L14.4 21.5H9.6z', (9, 2, 6)),
     32: (5.5, 'M3 10H10L16 23.4 22 10H29L19.4 29H12.6z', (12, 3, 8)),
 }
+
+# size -> the sheet (left, top, right, bottom), its folded corner, the tile (x, y, width, height), letter and marker.
+SMALL_SAVED_GAME = {
+    16: ((1, 0, 15, 16), 4, (3, 5, 10, 9), 'M4 8H6.5L8 11.5 9.5 8H12L9.4 13H6.6z', (7, 6, 2)),
+    22: ((3, 1, 19, 21), 5, (5, 7, 12, 12), 'M6 11H9L11 15 13 11H16L12.6 18H9.4z', (9, 8, 4)),
+    24: ((3, 1, 21, 23), 6, (5, 8, 14, 13), 'M6 11H9.5L12 17 14.5 11H18L13.8 20H10.2z', (10, 9, 4)),
+    32: ((5, 1, 27, 31), 7, (8, 11, 16, 17), 'M9 15H13L16 22 19 15H23L18 27H14z', (14, 12, 4)),
+}
+PAPER, FOLD, PAPER_EDGE = '#f7efd9', '#d9c898', '#5d4d2c'
 
 
 def small(size):
@@ -49,10 +58,25 @@ def tile():
             fill('M64 19.5L69 26.5 64 33.5 59 26.5z', '#f8f0da')]
 
 
+def small_saved_game(size):
+    (left, top, right, bottom), fold, tile_box, letter, (x, y, side) = SMALL_SAVED_GAME[size]
+    left, top, right, bottom = left + .5, top + .5, right - .5, bottom - .5  # the middle of its edge
+    edge = 'stroke="%s" stroke-linejoin="bevel"' % PAPER_EDGE
+    return document(size, size, [
+        '<defs>' + SEA + '</defs>',
+        '<path d="M%s %sH%sL%s %sV%sH%sz" fill="%s" %s/>'
+        % (left, top, right - fold, right, top + fold, bottom, left, PAPER, edge),
+        '<path d="M%s %sV%sH%sz" fill="%s" %s/>' % (right - fold, top, top + fold, right, FOLD, edge),
+        '<rect x="%d" y="%d" width="%d" height="%d" rx="1" fill="url(#sea)"/>' % tile_box,
+        fill(letter, CREAM),
+        '<rect x="%d" y="%d" width="%d" height="%d" fill="%s"/>' % (x, y, side, side, RED)])
+
+
 def saved_game():
     """A sheet of paper with a sea route and the program's tile."""
-    return ['<path d="M26 5H84L106 27V123H26z" fill="#f7efd9" stroke="#5d4d2c" stroke-width="3" stroke-linejoin="round"/>',
-            '<path d="M84 5V27H106z" fill="#d9c898" stroke="#5d4d2c" stroke-width="3" stroke-linejoin="round"/>',
+    edge = 'stroke="%s" stroke-width="3" stroke-linejoin="round"' % PAPER_EDGE
+    return ['<path d="M26 5H84L106 27V123H26z" fill="%s" %s/>' % (PAPER, edge),
+            '<path d="M84 5V27H106z" fill="%s" %s/>' % (FOLD, edge),
             stroke('M40 40Q58 22 92 44', '#8c1d1f', 3, 1, 'stroke-dasharray="7 5"'),
             '<circle cx="40" cy="40" r="4" fill="#8c1d1f"/><circle cx="92" cy="44" r="4" fill="#8c1d1f"/>',
             '<g transform="translate(35 53) scale(.484)">', *tile(), '</g>']
@@ -64,9 +88,9 @@ def main():
     (ICONS / 'vorlund.svg').write_text(program)
     (ICONS / (SAVED_GAME + '.svg')).write_text(saved)
     for size in ICON_SIZES:
-        drawing = small(size) if size in SMALL else program
-        rasterise(drawing, ICONS / ('vorlund-%d.png' % size), size, size)
-        rasterise(saved, ICONS / ('%s-%d.png' % (SAVED_GAME, size)), size, size)
+        for name, drawn, large in (('vorlund', small, program), (SAVED_GAME, small_saved_game, saved)):
+            drawing = drawn(size) if size in SMALL else large
+            rasterise(drawing, ICONS / ('%s-%d.png' % (name, size)), size, size)
 
 
 if __name__ == '__main__':
