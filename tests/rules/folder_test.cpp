@@ -185,7 +185,7 @@ TEST_F(SavedGames, AreWrittenAsFarAsTheMachineLetsThem) {
     setrlimit(RLIMIT_FSIZE, &small);
     const SaveResult limited = Save();
     setrlimit(RLIMIT_FSIZE, &limit);
-    EXPECT_EQ(limited, NotSaved("File too large."));
+    EXPECT_EQ(limited, NotSaved(Reason(EFBIG)));
 
     GameState game = NewOne;
     game.Players[1].Name = "\u0416";

@@ -88,7 +88,7 @@ TEST(Crossings, DialogsReportsAndTheEndOfTheTurn) {
 }
 
 TEST(Crossings, DeathClosesTheOtherDialogs) {
-    Sitting sitting(std::make_unique<ScriptedRandom>(QString("11/12 ").repeated(13).toStdString()));
+    Sitting sitting(std::make_unique<ScriptedRandom>(QString("11/12 ").repeated(12).toStdString() + "0/13"));
     sitting.Resume(Neighbours);
     Type("s7\t1\n");
     Click("frm3", "lblUpgrade");
