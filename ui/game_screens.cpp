@@ -107,10 +107,6 @@ void GameScreens::ShowReport(const Report& report, std::optional<int> picturePla
     report_->ShowIt(report, picturePlayer ? &board_->imgSet(*picturePlayer) : nullptr, board_.get());
 }
 
-void GameScreens::HideReport() {
-    report_->hide();
-}
-
 void GameScreens::CloseReport() {
     report_->hide();
 }

@@ -45,7 +45,6 @@ public:
     void ShowGameOver() override;
     void CloseDialogs() override;
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override;
-    void HideReport() override;
     void CloseReport() override;
     void Announce(const std::string& text) override;
 
