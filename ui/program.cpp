@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "computer/computer_turn.h"
+#include "state/world.h"
 #include "ui/windows/frm2.h"
 #include "ui/windows/frmLoad.h"
 
@@ -19,6 +20,7 @@ Program::Program(std::unique_ptr<Random> random, SavedGamesFolder saves, Sounds&
 Program::~Program() = default;
 
 void Program::Start() {
+    ResetGame(game_);
     title_ = std::make_unique<frm1>(*this);
     title_->Present();
 }

@@ -26,7 +26,7 @@ public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    /// Opens the title screen.
+    /// Resets the game and opens the title screen.
     void Start();
 
     /// Closes the title screen and opens the new-game screen.

@@ -4,7 +4,6 @@
 #include <QWindow>
 #include <string_view>
 
-#include "state/world.h"
 #include "ui/program.h"
 
 namespace vorlund {
@@ -37,10 +36,6 @@ frm1::frm1(Program& program)
     }
     AddCommands();
     LightOneAtATime();
-
-    program_.game().GameOver = false;
-    program_.game().ComputerTurnEnded = false;
-    InitWorld(program_.game());
     StartTimers();
 }
 

@@ -11,8 +11,8 @@ namespace vorlund {
 
 class Program;
 
-/// The title screen. It prepares the world, plays the title music, types out the credits and leads to a new
-/// game or a saved one. It has no title bar; it is moved by dragging any point of it that is no command.
+/// The title screen. It plays the title music, types out the credits and leads to a new game or a saved one.
+/// It has no title bar; it is moved by dragging any point of it that is no command.
 class frm1 final : public Screen {
     Q_OBJECT
 
