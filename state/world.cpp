@@ -108,6 +108,12 @@ void InitWorld(GameState& game) {
     }
 }
 
+void ResetGame(GameState& game) {
+    game.GameOver = false;
+    game.ComputerTurnEnded = false;
+    InitWorld(game);
+}
+
 bool CanReach(const GameState& game, bool isAttack, int from, int to) {
     if (!IsTerritory(from) || !IsTerritory(to) || from == to) {
         return false;

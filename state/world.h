@@ -27,6 +27,10 @@ extern const std::array<WorldEntry, NumTerritories> World;
 /// treasuries, `Factories`, moves and attacks left and the global fields are left alone.
 void InitWorld(GameState& game);
 
+/// What the game is reset to when the program starts: the world as InitWorld writes it, no end of a game and
+/// no computer player's turn behind it.
+void ResetGame(GameState& game);
+
 /// True when the current player may move (`isAttack` false) or attack (true) from territory index `from` to
 /// `to`. Any indices may be asked for. A move may go into an own or an unoccupied neighbour, an attack into
 /// one that another player holds.

@@ -32,10 +32,8 @@ public:
     /// blocking. `picturePlayer` is the player whose marker it bears, if any.
     virtual void ShowReport(const Report& report, std::optional<int> picturePlayer) = 0;
 
-    /// Makes the report screen invisible; it is shown again by the next ShowReport.
-    virtual void HideReport() = 0;
-
-    /// Closes the report screen outright, without asking what closing it means.
+    /// Takes the report screen away without asking what closing it means. The next ShowReport writes all of
+    /// it anew.
     virtual void CloseReport() = 0;
 
     /// Shows `text` in an exclamation box and returns when it has been answered. Until then no other window

@@ -65,7 +65,6 @@ bool TurnCycle::ReportClosed() {
     const std::int16_t computer = game_.CurrentPlayer;
     Advance();
     if (game_.Current().IsComputer) {
-        screens_.HideReport();
         computerTurn_();
     } else {
         game_.CurrentPlayer = computer;

@@ -1,12 +1,16 @@
 #include "ui/game_screens.h"
 
+#include <utility>
+
+#include "computer/computer_turn.h"
+#include "turn/victory.h"
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
 #include "ui/windows/frm3.h"
 #include "ui/windows/frmAttack.h"
 #include "ui/windows/frmBuy.h"
 #include "ui/windows/frmReport.h"
 #include "ui/windows/frmSave.h"
+#include "ui/windows/frmSelect.h"
 #include "ui/windows/frmSell.h"
 #include "ui/windows/frmStatus.h"
 #include "ui/windows/frmTransport.h"
@@ -14,69 +18,104 @@
 
 namespace vorlund {
 
-GameScreens::GameScreens(Program& program) : program_(program) {}
+GameScreens::GameScreens(GameState& game, Random& random, const SavedGamesFolder& saves, Sounds& sounds,
+                         std::function<void()> end)
+    : game_(game),
+      random_(random),
+      saves_(saves),
+      sounds_(sounds),
+      end_(std::move(end)),
+      turn_(game_, random_, *this, [this] { ComputerTurn(game_, random_, *this); }) {}
 
 GameScreens::~GameScreens() = default;
 
 void GameScreens::OpenBoard() {
-    report_ = std::make_unique<frmReport>(program_);
-    board_ = std::make_unique<frm3>(program_);
+    report_ = std::make_unique<frmReport>(*this);
+    board_ = std::make_unique<frm3>(game_, *this);
     board_->Open();
 }
 
-void GameScreens::OpenDialog(Command command) {
-    SetCommands(CommandSet::None());
-    QPointer<CommandDialog>& dialog = dialogs_[static_cast<std::size_t>(command)];
-    // One that has been closed may not be gone yet.
-    if (dialog.isNull() || !dialog->isVisible()) {
-        dialog = MakeDialog(command);
+void GameScreens::CloseEverything() {
+    CloseDialogs();
+    selection_.CloseOutright();
+    if (board_ != nullptr) {
+        report_->CloseOutright();
+        board_->CloseOutright();
     }
-    dialog->Present();
 }
 
-CommandDialog* GameScreens::MakeDialog(Command command) {
+void GameScreens::SelectTerritories() {
+    selection_.Present([this] {
+        auto selection = std::make_unique<frmSelect>(*board_, game_, random_, *this);
+        PlaceOver(*selection, *board_, frm3::DialogBottom);
+        return selection;
+    });
+}
+
+void GameScreens::SelectionEnded() {
+    selection_.CloseOutright();
+    turn_.OpenFirstTurn();
+}
+
+void GameScreens::RunCommand(Command command) {
+    if (command == Command::EndTurn) {
+        turn_.EndTurn();
+        return;
+    }
+    SetCommands(CommandSet::None());
+    dialogs_[static_cast<std::size_t>(command)].Present([this, command] {
+        auto dialog = MakeDialog(command);
+        PlaceOver(*dialog, *board_, frm3::DialogBottom);
+        return dialog;
+    });
+}
+
+std::unique_ptr<CommandDialog> GameScreens::MakeDialog(Command command) {
     switch (command) {
         case Command::Buy:
-            return new frmBuy(program_);
+            return std::make_unique<frmBuy>(*this, game_);
         case Command::Sell:
-            return new frmSell(program_);
+            return std::make_unique<frmSell>(*this, game_);
         case Command::Transport:
-            return new frmTransport(program_);
+            return std::make_unique<frmTransport>(*this, game_);
         case Command::Attack:
-            return new frmAttack(program_);
+            return std::make_unique<frmAttack>(*this, game_, random_, sounds_);
         case Command::Upgrade:
-            return new frmUpgrade(program_);
+            return std::make_unique<frmUpgrade>(*this, game_);
         case Command::Status:
-            return new frmStatus(program_);
+            return std::make_unique<frmStatus>(*this, game_, board_->imgSet(game_.CurrentPlayer));
         case Command::Save:
-            return new frmSave(program_);
+            return std::make_unique<frmSave>(*this, game_, saves_);
         case Command::EndTurn:
             break;
     }
     Q_UNREACHABLE();
 }
 
-void GameScreens::RestoreCommands() {
-    const GameState& game = program_.game();
-    if (game.GameOver || game.Current().IsDead) {
+bool GameScreens::ReportClosed() {
+    const bool stays = turn_.ReportClosed();
+    if (!stays) {
+        board_->activateWindow();
+    }
+    return stays;
+}
+
+BoardWindow& GameScreens::Board() {
+    return *board_;
+}
+
+void GameScreens::DialogClosed() {
+    if (game_.GameOver || game_.Current().IsDead) {
         CloseDialogs();
     }
-    SetCommands(AvailableCommands(game));
+    SetCommands(AvailableCommands(game_));
+    if (!report_->isVisible()) {
+        board_->activateWindow();
+    }
 }
 
-void GameScreens::ShowActionReport(const Report& report) {
-    report_->ShowIt(report, nullptr, nullptr);
-}
-
-void GameScreens::CloseEverything() {
-    CloseDialogs();
-    if (report_ != nullptr) {
-        report_->CloseOutright();
-    }
-    if (board_ != nullptr) {
-        board_->CloseSelection();
-        board_->CloseOutright();
-    }
+void GameScreens::NobodyIsLeft() {
+    NobodyWins(game_, *this);
 }
 
 void GameScreens::RefreshMap() {
@@ -96,19 +135,24 @@ void GameScreens::ShowGameOver() {
 }
 
 void GameScreens::CloseDialogs() {
-    for (const QPointer<CommandDialog>& dialog : dialogs_) {
-        if (!dialog.isNull()) {
-            dialog->CloseOutright();
-        }
+    for (OwnedWindow<CommandDialog>& dialog : dialogs_) {
+        dialog.CloseOutright();
     }
 }
 
-void GameScreens::ShowReport(const Report& report, std::optional<int> picturePlayer) {
-    report_->ShowIt(report, picturePlayer ? &board_->imgSet(*picturePlayer) : nullptr, board_.get());
+void GameScreens::ShowActionReport(const Report& report) {
+    PutReport(report, nullptr, nullptr);
 }
 
-void GameScreens::HideReport() {
-    report_->hide();
+void GameScreens::ShowReport(const Report& report, std::optional<int> picturePlayer) {
+    PutReport(report, picturePlayer ? &board_->imgSet(*picturePlayer) : nullptr, board_.get());
+}
+
+void GameScreens::PutReport(const Report& report, const Picture* picture, QWidget* owner) {
+    if (!report_->isVisible()) {
+        PlaceOver(*report_, *board_, frm3::ReportBottom);
+    }
+    report_->ShowIt(report, picture, owner);
 }
 
 void GameScreens::CloseReport() {

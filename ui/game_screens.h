@@ -1,43 +1,53 @@
 #pragma once
 
-#include <QPointer>
 #include <array>
+#include <functional>
 #include <memory>
 
+#include "savegame/folder.h"
+#include "state/game_state.h"
+#include "state/random.h"
 #include "turn/screens.h"
+#include "turn/turn_cycle.h"
+#include "ui/parts/owned_window.h"
 #include "ui/windows/command_dialog.h"
+#include "ui/windows/dialog_host.h"
+#include "ui/windows/game_navigation.h"
 
 namespace vorlund {
 
-class Program;
+class Sounds;
 class frm3;
 class frmReport;
+class frmSelect;
 
-/// The screens of a game under way: the board, the dialogs that its commands open, and the report.
-class GameScreens final : public Screens {
+/// A game under way: its turn cycle, and its windows, which are the board, the selection screen, the dialogs
+/// and the report. What is handed in must outlive it.
+class GameScreens final : public Screens, public GameNavigation, public DialogHost {
 public:
-    explicit GameScreens(Program& program);
+    /// `end` ends the program.
+    GameScreens(GameState& game, Random& random, const SavedGamesFolder& saves, Sounds& sounds,
+                std::function<void()> end);
     ~GameScreens() override;
     GameScreens(const GameScreens&) = delete;
     GameScreens& operator=(const GameScreens&) = delete;
 
     /// Opens the board, for a new game or a loaded one.
     void OpenBoard();
-    frm3* board() const { return board_.get(); }
-    frmReport& report() const { return *report_; }
-
-    /// Takes the commands away and opens the dialog of `command`, or brings it to the front. Not for End
-    /// Turn.
-    void OpenDialog(Command command);
-
-    /// Gives the board the commands that the current player may use.
-    void RestoreCommands();
-
-    /// Shows the report of an action: without a picture and owned by no window.
-    void ShowActionReport(const Report& report);
 
     /// Closes every window of the game without asking anything.
     void CloseEverything();
+
+    void SelectTerritories() override;
+    void SelectionEnded() override;
+    void RunCommand(Command command) override;
+    bool ReportClosed() override;
+    void End() override { end_(); }
+
+    BoardWindow& Board() override;
+    void ShowActionReport(const Report& report) override;
+    void DialogClosed() override;
+    void NobodyIsLeft() override;
 
     void RefreshMap() override;
     void SetCommands(CommandSet available) override;
@@ -45,17 +55,24 @@ public:
     void ShowGameOver() override;
     void CloseDialogs() override;
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override;
-    void HideReport() override;
     void CloseReport() override;
     void Announce(const std::string& text) override;
 
 private:
-    CommandDialog* MakeDialog(Command command);
+    std::unique_ptr<CommandDialog> MakeDialog(Command command);
+    void PutReport(const Report& report, const Picture* picture, QWidget* owner);
 
-    Program& program_;
+    GameState& game_;
+    Random& random_;
+    const SavedGamesFolder& saves_;
+    Sounds& sounds_;
+    std::function<void()> end_;
+    TurnCycle turn_;
+    // The other windows belong to the board's, so they are destroyed before it.
     std::unique_ptr<frm3> board_;
     std::unique_ptr<frmReport> report_;
-    std::array<QPointer<CommandDialog>, NumCommands> dialogs_;
+    OwnedWindow<frmSelect> selection_;
+    std::array<OwnedWindow<CommandDialog>, NumCommands> dialogs_;
 };
 
 }  // namespace vorlund

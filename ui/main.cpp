@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <array>
-#include <utility>
 
 #include "ui/machine/data_folder.h"
 #include "ui/machine/single_copy.h"
@@ -17,7 +16,7 @@ constexpr int AnotherCopyRuns = 3;  // the exit status by which ./play knows, fo
 
 int main(int, char** arguments) {
     // First, because it makes a file size limit harmless, and fonts and lock write files too
-    vorlund::SavedGamesFolder saves(vorlund::DataFolder() + "/vorlund");
+    const vorlund::SavedGamesFolder saves(vorlund::DataFolder() + "/vorlund");
     // The game has no command line, so the toolkit gets none either.
     int count = 1;
     std::array<char*, 2> name{arguments[0], nullptr};
@@ -33,8 +32,10 @@ int main(int, char** arguments) {
     vorlund::HeldKeys heldKeys;
     qApp->installEventFilter(&heldKeys);
     vorlund::DescribeScreensToAssistiveTechnology();
-    vorlund::Sound sound;
-    vorlund::Program program(std::make_unique<vorlund::ClockRandom>(), std::move(saves), sound);
+    vorlund::GameState game;
+    vorlund::ClockRandom random;
+    vorlund::Sound sounds;
+    vorlund::Program program(game, random, saves, sounds);
     program.Start();
     return QApplication::exec();
 }

@@ -1,57 +1,50 @@
 #include "ui/program.h"
 
 #include <QCoreApplication>
-#include <utility>
 
-#include "computer/computer_turn.h"
+#include "state/world.h"
+#include "ui/windows/frm1.h"
 #include "ui/windows/frm2.h"
 #include "ui/windows/frmLoad.h"
 
 namespace vorlund {
 
-Program::Program(std::unique_ptr<Random> random, SavedGamesFolder saves, Sounds& sounds)
-    : random_(std::move(random)),
-      saves_(std::move(saves)),
-      sounds_(sounds),
-      screens_(*this),
-      turn_(game_, *random_, screens_, [this] { ComputerTurn(game_, *random_, screens_); }) {}
+Program::Program(GameState& game, Random& random, const SavedGamesFolder& saves, Sounds& sounds)
+    : game_(game), saves_(saves), sounds_(sounds), screens_(game, random, saves, sounds, [this] { End(); }) {}
 
 Program::~Program() = default;
 
 void Program::Start() {
-    title_ = std::make_unique<frm1>(*this);
-    title_->Present();
+    ResetGame(game_);
+    BackToTitle();
 }
 
 void Program::PlayGame() {
-    newGame_ = std::make_unique<frm2>(*this);
-    newGame_->Present();
-    title_->Leave();
+    newGame_.Present([this] { return std::make_unique<frm2>(game_, *this); });
+    title_.CloseOutright();
 }
 
 void Program::LoadGame() {
-    load_ = std::make_unique<frmLoad>(*this);
-    load_->Present();
-    title_->hide();
+    load_.Present([this] { return std::make_unique<frmLoad>(game_, saves_, *this); });
+    title_.Hide();
 }
 
 void Program::BackToTitle() {
-    title_->Present();
+    title_.Present([this] { return std::make_unique<frm1>(sounds_, *this); });
 }
 
 void Program::OpenBoard() {
     screens_.OpenBoard();
-    title_->Leave();
+    title_.CloseOutright();
+    newGame_.CloseOutright();
+    load_.CloseOutright();
 }
 
 void Program::End() {
     screens_.CloseEverything();
-    for (Screen* window : {static_cast<Screen*>(title_.get()), static_cast<Screen*>(newGame_.get()),
-                           static_cast<Screen*>(load_.get())}) {
-        if (window != nullptr) {
-            window->CloseOutright();
-        }
-    }
+    title_.CloseOutright();
+    newGame_.CloseOutright();
+    load_.CloseOutright();
     QCoreApplication::exit(0);
 }
 

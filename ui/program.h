@@ -1,66 +1,45 @@
 #pragma once
 
-#include <memory>
-
 #include "savegame/folder.h"
 #include "state/game_state.h"
 #include "state/random.h"
-#include "turn/turn_cycle.h"
 #include "ui/game_screens.h"
-#include "ui/machine/sounds.h"
-#include "ui/windows/frm1.h"
+#include "ui/parts/owned_window.h"
+#include "ui/windows/title_navigation.h"
 
 namespace vorlund {
 
+class Sounds;
+class frm1;
 class frm2;
 class frmLoad;
 
-/// One run of the program: it owns the one game, what the game needs of the machine, and the screens, and
-/// leads from the title screen to a game and from there to the end.
-class Program {
+/// One run of the program: it leads from the title screen to a game and from there to the end, and owns the
+/// windows before the game. What is handed in must outlive it.
+class Program final : public TitleNavigation {
 public:
-    /// `random` is the game's chance, `saves` the folder of the saved games, and `sounds` plays the
-    /// recordings.
-    Program(std::unique_ptr<Random> random, SavedGamesFolder saves, Sounds& sounds);
-    ~Program();
+    Program(GameState& game, Random& random, const SavedGamesFolder& saves, Sounds& sounds);
+    ~Program() override;
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    /// Opens the title screen.
+    /// Resets the game and opens the title screen.
     void Start();
 
-    /// Closes the title screen and opens the new-game screen.
-    void PlayGame();
-
-    /// Hides the title screen and opens the load screen.
-    void LoadGame();
-
-    /// Shows the title screen again as it was left.
-    void BackToTitle();
-
-    /// Opens the board on the game as it stands, new or loaded, and closes the title screen.
-    void OpenBoard();
-
-    /// Ends the program: every window closes without asking anything.
-    void End();
-
-    GameState& game() { return game_; }
-    Random& random() { return *random_; }
-    SavedGamesFolder& saves() { return saves_; }
-    Sounds& sound() { return sounds_; }
-    GameScreens& screens() { return screens_; }
-    TurnCycle& turn() { return turn_; }
+    void PlayGame() override;
+    void LoadGame() override;
+    void BackToTitle() override;
+    void OpenBoard() override;
+    void End() override;
 
 private:
-    GameState game_;
-    std::unique_ptr<Random> random_;
-    SavedGamesFolder saves_;
+    GameState& game_;
+    const SavedGamesFolder& saves_;
     Sounds& sounds_;
     GameScreens screens_;
-    TurnCycle turn_;
-    std::unique_ptr<frm1> title_;
-    std::unique_ptr<frm2> newGame_;
-    std::unique_ptr<frmLoad> load_;
+    OwnedWindow<frm1> title_;
+    OwnedWindow<frm2> newGame_;
+    OwnedWindow<frmLoad> load_;
 };
 
 }  // namespace vorlund

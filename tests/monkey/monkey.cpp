@@ -7,6 +7,7 @@
 #include "ui/machine/sound.h"
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
+#include "ui/windows/command_dialog.h"
 #include "ui/windows/frm3.h"
 
 namespace vorlund {
@@ -42,6 +43,14 @@ QList<QWidget*> WindowsOnScreen() {
     return windows;
 }
 
+/// Null while it is not on the screen.
+QWidget* Board() {
+    const QList<QWidget*> windows = WindowsOnScreen();
+    const auto board = std::find_if(windows.begin(), windows.end(),
+                                    [](auto* window) { return qobject_cast<frm3*>(window) != nullptr; });
+    return board != windows.end() ? *board : nullptr;
+}
+
 /// What `window` shows of one kind; the dialogs that it owns are its children too.
 template <class Widget>
 QList<Widget*> Shown(const QWidget& window) {
@@ -56,7 +65,7 @@ class Monkey : public QObject {
 public:
     explicit Monkey(int seed) : seed_(seed), mind_(static_cast<std::uint32_t>(seed)) {
         for (char name = 'a'; name <= 'l'; ++name) {  // as many as there is room for in the list
-            program_.saves().Save(std::string(1, name) + ".vrs", RandomPosition(mind_), true);
+            saves_.Save(std::string(1, name) + ".vrs", RandomPosition(mind_), true);
         }
         if (!QFile(folder_.filePath(QStringLiteral("0 empty.vrs"))).open(QIODevice::WriteOnly)) {
             GiveUp("no file can be written");
@@ -75,8 +84,7 @@ public:
         if (!WindowsOnScreen().isEmpty()) {
             GiveUp("the program has ended, but not all of its windows");
         }
-        std::fprintf(stderr, "%lld events%s\n", done_.size(),
-                     program_.game().GameOver ? ", a whole game" : "");
+        std::fprintf(stderr, "%lld events%s\n", done_.size(), game_.GameOver ? ", a whole game" : "");
         return static_cast<int>(done_.size());
     }
 
@@ -116,7 +124,7 @@ private:
         QWidget& window = strays ? *Any(windows.mid(board), mind_) : *modal;
         const auto buttons = Shown<QAbstractButton>(window);
         const auto fields = Shown<QLineEdit>(window);
-        const bool mayEndGame = window.parentWidget() == nullptr && !program_.game().GameOver;
+        const bool mayEndGame = window.parentWidget() == nullptr && !game_.GameOver;
         const int kind = mind_.Draw(100);
         if (kind < 4 && (!mayEndGame || OneIn(10, mind_))) {
             done_ << NameOf(window) + QStringLiteral(" closed");
@@ -152,7 +160,7 @@ private:
     }
 
     void Fill(const QWidget& window, const QList<QLineEdit*>& fields) {
-        const Route route = RandomRoute(program_.game(), mind_);
+        const Route route = RandomRoute(game_, mind_);
         QWindow* const hands = window.windowHandle();
         done_ << NameOf(window);
         for (const QLineEdit* field : fields) {
@@ -181,9 +189,8 @@ private:
                                                                                            : route.To);
     }
 
-    CommandSet Available() {
-        const auto labels =
-            program_.screens().board()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
+    static CommandSet Available(const QWidget& board) {
+        const auto labels = board.findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
         CommandSet available;
         for (const Command command : AllCommands) {
             const bool enabled = labels[static_cast<qsizetype>(command)]->isEnabled();
@@ -194,9 +201,10 @@ private:
 
     bool NothingCanBeDone() {
         const QList<QWidget*> windows = WindowsOnScreen();
-        const bool boardAlone = windows == QList<QWidget*>{program_.screens().board()};
+        const QWidget* const board = Board();
+        const bool boardAlone = windows.size() == 1 && windows.front() == board;
         return windows.isEmpty() ||
-               (boardAlone && !program_.game().GameOver && Available() == CommandSet::None());
+               (boardAlone && !game_.GameOver && Available(*board) == CommandSet::None());
     }
 
     std::string Broken() {
@@ -207,25 +215,25 @@ private:
             return NothingCanBeDone() ? "nothing is left to do" : "an event took too long";
         }
         // Before the first turn has begun, players without a territory are alive.
-        const frm3* const board = program_.screens().board();
-        if (board == nullptr || board->isHidden() || board->windowTitle() == QLatin1String("Vorlund")) {
+        const QWidget* const board = Board();
+        if (board == nullptr || board->windowTitle() == QLatin1String("Vorlund")) {
             return "";
         }
-        const GameState& game = program_.game();
-        std::string broken = BrokenRecords(game) + BrokenCommands(game, Available());
-        if (Available().Has(Command::Save) && done_.size() % 8 == 0) {
-            broken += BrokenSaving(game);
+        const CommandSet available = Available(*board);
+        std::string broken = BrokenRecords(game_) + BrokenCommands(game_, available);
+        if (available.Has(Command::Save) && done_.size() % 8 == 0) {
+            broken += BrokenSaving(game_);
         }
         for (int t = 0; t < NumTerritories; ++t) {
             const auto* const count = board->findChild<QLabel*>(QStringLiteral("lblCntry(%1)").arg(t));
-            const Territory& territory = game.TerritoryAt(t);
+            const Territory& territory = game_.TerritoryAt(t);
             const QString units = QStringLiteral("%1/%2").arg(territory.Troops).arg(territory.Tanks);
             if (count->isHidden() ? territory.Occupied : count->text() != units) {
                 broken += "the board does not show what stands in " + std::string(territory.Name);
             }
         }
         for (const QWidget* window : WindowsOnScreen()) {
-            if ((game.GameOver || game.Current().IsDead) && qobject_cast<const CommandDialog*>(window)) {
+            if ((game_.GameOver || game_.Current().IsDead) && qobject_cast<const CommandDialog*>(window)) {
                 broken += NameOf(*window).toStdString() + " is open for somebody who can do nothing";
             }
         }
@@ -242,9 +250,11 @@ private:
     int seed_;
     SeededRandom mind_;
     QTemporaryDir folder_;
-    Sound sound_;
-    Program program_{std::make_unique<SeededRandom>(seed_), SavedGamesFolder(folder_.path().toStdString()),
-                     sound_};
+    GameState game_;
+    SeededRandom chance_{static_cast<std::uint32_t>(seed_)};
+    SavedGamesFolder saves_{folder_.path().toStdString()};
+    Sound sounds_;
+    Program program_{game_, chance_, saves_, sounds_};
     qsizetype eventsAllowed_ = 0;
     QStringList done_;
     std::clock_t eventBegan_ = 0;

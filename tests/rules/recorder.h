@@ -32,10 +32,6 @@ public:
         Calls += "ShowReport " + (picturePlayer ? std::to_string(*picturePlayer + 1) : "") + " " +
                  report.Headline + "; ";
     }
-    void HideReport() override {
-        ReportVisible = false;
-        Calls += "HideReport; ";
-    }
     void CloseReport() override {
         ReportVisible = false;
         Calls += "CloseReport; ";

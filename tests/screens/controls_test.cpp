@@ -11,6 +11,8 @@
 
 #include "tests/rules/small_worlds.h"
 #include "tests/screens/hands.h"
+#include "ui/windows/frmReport.h"
+#include "ui/windows/game_navigation.h"
 
 // What single controls do: the Tab key, the fields under the map, tooltips, the report's text, the saved
 // games.
@@ -90,10 +92,17 @@ TEST(Controls, TheTabKeyLeadsToEverything) {
 
 TEST(Controls, AReportScrollsAndTheNextBeginsAtItsTop) {
     Sitting sitting;
-    sitting.Resume(AnnaAndBen());
+    struct : GameNavigation {
+        void SelectTerritories() override {}
+        void SelectionEnded() override {}
+        void RunCommand(Command) override {}
+        bool ReportClosed() override { return false; }
+        void End() override {}
+    } navigation;
+    frmReport screen(navigation);
     const Report report{"Vorlund - Buy", "Forty lines", QString("line\r").repeated(40).toStdString()};
-    sitting.Run().screens().ShowActionReport(report);
-    const auto bars = Window("frmReport").findChildren<QScrollBar*>();
+    screen.ShowIt(report, nullptr, nullptr);
+    const auto bars = screen.findChildren<QScrollBar*>();
     const auto& bar = **std::find_if(bars.begin(), bars.end(), [](auto* b) { return b->maximum() > 0; });
     const int page = bar.pageStep();
     for (const auto& [key, place] : {std::pair(Qt::Key_Down, bar.singleStep()),
@@ -104,7 +113,7 @@ TEST(Controls, AReportScrollsAndTheNextBeginsAtItsTop) {
         Press(key);
         EXPECT_EQ(bar.value(), place) << key;
     }
-    sitting.Run().screens().ShowActionReport(report);
+    screen.ShowIt(report, nullptr, nullptr);
     EXPECT_EQ(bar.value(), 0);
 }
 
@@ -208,7 +217,7 @@ TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
     };
     calls.OpenFolder = fails;
     calls.SyncFileSystem = fails;
-    sitting.Run().saves() = SavedGamesFolder(sitting.Saves().toStdString(), calls);
+    sitting.Folder() = SavedGamesFolder(sitting.Saves().toStdString(), calls);
     sitting.Expect(
         {"Warning: Game 'ab.vrs' saved, but a power cut now could still lose it.\nInput/output error."});
     Type("b\n");
@@ -217,7 +226,7 @@ TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
 
 TEST(Controls, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
     Sitting sitting;
-    sitting.Run().saves() = SavedGamesFolder("/dev/null");
+    sitting.Folder() = SavedGamesFolder("/dev/null");
     sitting.Expect({"Warning: The saved games could not be listed.\nNot a directory."});
     Click("frm1", "lblLoad");
     Click("frmLoad", "lblGo(2)");

@@ -14,7 +14,8 @@ constexpr int Patience = 60000;  // milliseconds; a busy machine may take its ti
 struct Copy : QProcess {
     explicit Copy(const QTemporaryDir& home) : lock(home.filePath("vorlund.lock")) {
         setProcessChannelMode(MergedChannels);
-        start("env", {"HOME=" + home.path(), "XDG_RUNTIME_DIR=" + home.path(), "LC_ALL=C.UTF-8", VORLUND_PROGRAM});
+        start("env",
+              {"HOME=" + home.path(), "XDG_RUNTIME_DIR=" + home.path(), "LC_ALL=C.UTF-8", VORLUND_PROGRAM});
     }
 
     bool HoldsTheLock() const {

@@ -63,12 +63,13 @@ void SoundRecorder::PlayWave(Wave wave) {
 
 Sitting::Sitting(std::unique_ptr<Random> chance, const QString& saves)
     : saves_(saves.isEmpty() ? folder_.filePath("saves") : saves),
-      program_(
-          std::make_unique<Program>(std::move(chance), SavedGamesFolder(saves_.toStdString()), sounds_)) {
+      chance_(std::move(chance)),
+      savesFolder_(saves_.toStdString()),
+      program_(game_, *chance_, savesFolder_, sounds_) {
     qApp->installEventFilter(&heldKeys_);
     qApp->installEventFilter(this);
     beeps = 0;
-    program_->Start();
+    program_.Start();
 }
 
 Sitting::~Sitting() {
@@ -78,8 +79,7 @@ Sitting::~Sitting() {
 }
 
 void Sitting::Put(const QString& file, const GameState& game) const {
-    EXPECT_EQ(SavedGamesFolder(saves_.toStdString()).Save(file.toStdString(), game, true).Outcome,
-              SaveResult::Kind::Saved);
+    EXPECT_EQ(savesFolder_.Save(file.toStdString(), game, true).Outcome, SaveResult::Kind::Saved);
 }
 
 void Sitting::Resume(const GameState& game) {

@@ -51,13 +51,13 @@ public:
     Sitting(const Sitting&) = delete;
     Sitting& operator=(const Sitting&) = delete;
 
-    Program& Run() { return *program_; }
-    GameState& Game() { return program_->game(); }
+    const GameState& Game() const { return game_; }
     SoundRecorder& Recorded() { return sounds_; }
 
     /// The recordings that were started so far but for the music, which starts by itself: "Beep Gun".
     QString Heard() const { return sounds_.Effects.join(u' '); }
     QString Saves() const { return saves_; }
+    SavedGamesFolder& Folder() { return savesFolder_; }
 
     /// Saves `game` as `file` behind the program's back.
     void Put(const QString& file, const GameState& game) const;
@@ -76,8 +76,11 @@ private:
     QTemporaryDir folder_;
     QString saves_;
     HeldKeys heldKeys_;
+    GameState game_;
+    std::unique_ptr<Random> chance_;
+    SavedGamesFolder savesFolder_;
     SoundRecorder sounds_;
-    std::unique_ptr<Program> program_;
+    Program program_;
     std::deque<Box> expected_;
 };
 

@@ -98,7 +98,12 @@ void Screen::AddLine(const QString& name, QPoint from, int length) {
 }
 
 void Screen::closeEvent(QCloseEvent* event) {
-    event->setAccepted(outright_ || CloseRequested());
+    // One that is not on the screen has been closed before; a second request may come until it is gone.
+    const bool closes = outright_ || !isVisible() || CloseRequested();
+    event->setAccepted(closes);
+    if (closes) {
+        emit Closed();
+    }
 }
 
 void Screen::mouseMoveEvent(QMouseEvent* event) {

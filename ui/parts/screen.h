@@ -37,6 +37,10 @@ public:
     /// What the window is to a screen reader.
     QAccessible::Role Role() const { return role_; }
 
+signals:
+    /// The window closes, for its owner to let go of it.
+    void Closed();
+
 protected:
     void SetRole(QAccessible::Role role) { role_ = role; }
 

@@ -3,19 +3,13 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "ui/game_screens.h"
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
-#include "ui/windows/frm3.h"
-#include "ui/windows/frmReport.h"
+#include "ui/windows/dialog_host.h"
 
 namespace vorlund {
 
-CommandDialog::CommandDialog(Program& program, const QString& name, const QString& title, QSize size)
-    : Screen(program.screens().board(), name, title, size, {}, Qt::Dialog), program_(program) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    PlaceOver(*this, *program.screens().board(), frm3::DialogBottom);
-}
+CommandDialog::CommandDialog(DialogHost& host, const QString& name, const QString& title, QSize size)
+    : Screen(&host.Board(), name, title, size, {}, Qt::Dialog), host_(host) {}
 
 void CommandDialog::Settle(const Beep&) {
     QApplication::beep();
@@ -26,26 +20,20 @@ void CommandDialog::Settle(const Refusal& refusal) {
 }
 
 void CommandDialog::Settle(const Report& report) {
-    program_.screens().RefreshMap();
-    program_.screens().ShowActionReport(report);
+    host_.Board().RefreshMap();
+    host_.ShowActionReport(report);
     close();
 }
 
 void CommandDialog::TakeTerritories(std::initializer_list<Field*> fields) {
     for (auto field = fields.begin(); field != fields.end(); ++field) {
         (*field)->TakeTerritories(field + 1 == fields.end() ? nullptr : *(field + 1));
-        program_.screens().board()->TypeInto(**field);
+        host_.Board().TypeInto(**field);
     }
 }
 
 bool CommandDialog::CloseRequested() {
-    // The second half of a double click would give the same order once more.
-    setEnabled(false);
-    GameScreens& screens = program_.screens();
-    screens.RestoreCommands();
-    if (!screens.report().isVisible()) {
-        screens.board()->activateWindow();
-    }
+    host_.DialogClosed();
     return true;
 }
 

@@ -8,7 +8,7 @@
 
 namespace vorlund {
 
-class Program;
+class DialogHost;
 
 /// A dialog that a command of the board opens, in front of the board and without blocking it. Escape closes
 /// it, and however it closes, it gives the board its commands back.
@@ -16,10 +16,10 @@ class CommandDialog : public Screen {
     Q_OBJECT
 
 public:
-    CommandDialog(Program& program, const QString& name, const QString& title, QSize size);
+    CommandDialog(DialogHost& host, const QString& name, const QString& title, QSize size);
 
 protected:
-    Program& program() const { return program_; }
+    DialogHost& host() const { return host_; }
 
     // What the outcome of an action looks like: a beep, a message box over the dialog that stays as it is, or
     // the report of what was done, behind which the dialog closes.
@@ -34,7 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    Program& program_;
+    DialogHost& host_;
 };
 
 }  // namespace vorlund

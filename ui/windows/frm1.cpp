@@ -4,8 +4,8 @@
 #include <QWindow>
 #include <string_view>
 
-#include "state/world.h"
-#include "ui/program.h"
+#include "ui/machine/sounds.h"
+#include "ui/windows/title_navigation.h"
 
 namespace vorlund {
 namespace {
@@ -19,10 +19,11 @@ constexpr int TypingInterval = 40;  // milliseconds a character
 
 }  // namespace
 
-frm1::frm1(Program& program)
+frm1::frm1(Sounds& sounds, TitleNavigation& navigation)
     : Screen(nullptr, QStringLiteral("frm1"), QStringLiteral("Vorlund"), QSize(400, 223), {},
              Qt::Window | Qt::FramelessWindowHint),
-      program_(program),
+      sounds_(sounds),
+      navigation_(navigation),
       earth_(QStringLiteral("earth"), QStringLiteral("The earth")) {
     auto* imgEarth = new PictureLabel(this, QStringLiteral("imgEarth"), QRect(96, 16, 208, 100));
     imgEarth->Show(&earth_);
@@ -37,26 +38,22 @@ frm1::frm1(Program& program)
     }
     AddCommands();
     LightOneAtATime();
-
-    program_.game().GameOver = false;
-    program_.game().ComputerTurnEnded = false;
-    InitWorld(program_.game());
     StartTimers();
 }
 
 void frm1::AddCommands() {
     const auto add = [this](const char* name, const QString& caption, const QRect& box,
-                            void (Program::*run)()) {
+                            void (TitleNavigation::*run)()) {
         CommandLabel* command = AddCommand(QString::fromLatin1(name), caption, box);
         command->setFocusPolicy(Qt::TabFocus);
         connect(command, &CommandLabel::clicked, this, [this, run] {
-            program_.sound().PlayWave(Wave::Beep);
-            (program_.*run)();
+            sounds_.PlayWave(Wave::Beep);
+            (navigation_.*run)();
         });
     };
-    add("lblPlay", QStringLiteral("Play Game"), QRect(248, 128, 85, 19), &Program::PlayGame);
-    add("lblLoad", QStringLiteral("Load Game"), QRect(246, 152, 89, 19), &Program::LoadGame);
-    add("lblExit", QStringLiteral("Exit"), QRect(275, 176, 31, 19), &Program::End);
+    add("lblPlay", QStringLiteral("Play Game"), QRect(248, 128, 85, 19), &TitleNavigation::PlayGame);
+    add("lblLoad", QStringLiteral("Load Game"), QRect(246, 152, 89, 19), &TitleNavigation::LoadGame);
+    add("lblExit", QStringLiteral("Exit"), QRect(275, 176, 31, 19), &TitleNavigation::End);
 }
 
 void frm1::StartTimers() {
@@ -68,7 +65,7 @@ void frm1::StartTimers() {
         tmr1_.stop();
     });
     connect(&tmr2_, &QTimer::timeout, this, [this] {
-        program_.sound().PlayWave(Wave::Vrl1);
+        sounds_.PlayWave(Wave::Vrl1);
         tmr2_.stop();
     });
     connect(&tmr3_, &QTimer::timeout, this, &frm1::TypeCredit);
@@ -89,15 +86,8 @@ void frm1::TypeCredit() {
     tmr3_.stop();
 }
 
-void frm1::Leave() {
-    for (QTimer* timer : {&tmr1_, &tmr2_, &tmr3_}) {
-        timer->stop();
-    }
-    CloseOutright();
-}
-
 bool frm1::CloseRequested() {
-    program_.End();
+    navigation_.End();
     return true;
 }
 

@@ -9,18 +9,16 @@
 
 namespace vorlund {
 
-class Program;
+class Sounds;
+class TitleNavigation;
 
-/// The title screen. It prepares the world, plays the title music, types out the credits and leads to a new
-/// game or a saved one. It has no title bar; it is moved by dragging any point of it that is no command.
+/// The title screen. It plays the title music, types out the credits and leads to a new game or a saved one.
+/// It has no title bar; it is moved by dragging any point of it that is no command.
 class frm1 final : public Screen {
     Q_OBJECT
 
 public:
-    explicit frm1(Program& program);
-
-    /// Closes the screen for good, and its music and credits with it.
-    void Leave();
+    frm1(Sounds& sounds, TitleNavigation& navigation);
 
 protected:
     bool CloseRequested() override;
@@ -33,7 +31,8 @@ private:
     void StartTimers();
     void TypeCredit();
 
-    Program& program_;
+    Sounds& sounds_;
+    TitleNavigation& navigation_;
     Picture earth_;
     QTimer tmr1_;
     QTimer tmr2_;

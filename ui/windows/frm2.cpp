@@ -8,7 +8,7 @@
 #include "savegame/format.h"
 #include "setup/new_game.h"
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
+#include "ui/windows/title_navigation.h"
 
 namespace vorlund {
 namespace {
@@ -19,9 +19,10 @@ constexpr int FewestPlayers = 2;
 
 }  // namespace
 
-frm2::frm2(Program& program)
+frm2::frm2(GameState& game, TitleNavigation& navigation)
     : Screen(nullptr, QStringLiteral("frm2"), QStringLiteral("Vorlund - New Game"), QSize(400, 250)),
-      program_(program) {
+      game_(game),
+      navigation_(navigation) {
     lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 360, 22));
     lbl1_->Show("Select the number of players for the game:");
     AddChoices();
@@ -87,7 +88,7 @@ void frm2::ShowNameRows() {
         }
         ++players;
     }
-    program_.game().NumPlayers = players;
+    game_.NumPlayers = players;
     for (CommandLabel* choice : choices_) {
         choice->hide();
     }
@@ -105,24 +106,23 @@ void frm2::ShowNameRows() {
 void frm2::CheckNames() {
     std::vector<std::string> names;
     names.reserve(rows_.size());
-    for (int i = 0; i < program_.game().NumPlayers; ++i) {
+    for (int i = 0; i < game_.NumPlayers; ++i) {
         names.push_back(rows_[static_cast<std::size_t>(i)].txtN->Typed());
     }
-    if (const auto refusal = EnterNames(program_.game(), names)) {
+    if (const auto refusal = EnterNames(game_, names)) {
         lbl1_->Show(refusal->Prompt);
         for (int beep = 0; beep < refusal->Beeps; ++beep) {
             QApplication::beep();
         }
         return;
     }
-    program_.OpenBoard();
-    CloseOutright();
+    navigation_.OpenBoard();
 }
 
 bool frm2::CloseRequested() {
     if (Ask(this,
             "Closing this window will terminate your new game.\rPress 'Yes' to exit or 'No' to return.")) {
-        program_.End();
+        navigation_.End();
         return true;
     }
     return false;

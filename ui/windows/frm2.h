@@ -9,14 +9,14 @@
 
 namespace vorlund {
 
-class Program;
+class TitleNavigation;
 
 /// The new-game screen: first the number of players, then their names and which of them the computer plays.
 class frm2 final : public Screen {
     Q_OBJECT
 
 public:
-    explicit frm2(Program& program);
+    frm2(GameState& game, TitleNavigation& navigation);
 
 protected:
     bool CloseRequested() override;
@@ -35,7 +35,8 @@ private:
     void ShowNameRows();
     void CheckNames();
 
-    Program& program_;
+    GameState& game_;
+    TitleNavigation& navigation_;
     TextLabel* lbl1_;
     std::array<CommandLabel*, 4> choices_{};
     std::array<Row, MaxPlayers> rows_{};

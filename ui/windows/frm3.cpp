@@ -7,8 +7,7 @@
 #include <string>
 
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
-#include "ui/windows/frmSelect.h"
+#include "ui/windows/game_navigation.h"
 #include "ui/windows/territory_text.h"
 
 namespace vorlund {
@@ -44,9 +43,10 @@ Picture MarkerOf(int player) {
 
 }  // namespace
 
-frm3::frm3(Program& program)
-    : Screen(nullptr, QStringLiteral("frm3"), QStringLiteral("Vorlund"), Size, QStringLiteral("map")),
-      program_(program),
+frm3::frm3(const GameState& game, GameNavigation& navigation)
+    : BoardWindow(nullptr, QStringLiteral("frm3"), QStringLiteral("Vorlund"), Size, QStringLiteral("map")),
+      game_(game),
+      navigation_(navigation),
       imgSet_{MarkerOf(0), MarkerOf(1), MarkerOf(2), MarkerOf(3), MarkerOf(4)},
       imgExtraSet_{Picture(QStringLiteral("extra0"), QStringLiteral("Defense")),
                    Picture(QStringLiteral("extra1"), QStringLiteral("Factory")),
@@ -60,12 +60,11 @@ frm3::frm3(Program& program)
     tmrFirst_.setSingleShot(true);
     tmrFirst_.setInterval(SelectionDelay);
     connect(&tmrFirst_, &QTimer::timeout, this, [this] {
-        selection_ = std::make_unique<frmSelect>(program_, *this);
-        selection_->Present();
+        if (isVisible()) {
+            navigation_.SelectTerritories();
+        }
     });
 }
-
-frm3::~frm3() = default;
 
 void frm3::AddMarkers() {
     for (int t = 0; t < NumTerritories; ++t) {
@@ -97,11 +96,10 @@ void frm3::AddCommandBar() {
 }
 
 void frm3::Open() {
-    const GameState& game = program_.game();
-    if (game.GameLoaded) {
-        setWindowTitle(Displayed("Vorlund - " + game.Current().Name + "'s turn"));
+    if (game_.GameLoaded) {
+        setWindowTitle(Displayed("Vorlund - " + game_.Current().Name + "'s turn"));
         RefreshMap();
-        SetCommands(AvailableCommands(game));
+        SetCommands(AvailableCommands(game_));
     } else {
         SetCommands(CommandSet::None());
         tmrFirst_.start();
@@ -116,7 +114,7 @@ void frm3::RefreshMap() {
 }
 
 void frm3::RefreshTerritory(int t, const Marker& marker) {
-    const Territory& territory = program_.game().TerritoryAt(t);
+    const Territory& territory = game_.TerritoryAt(t);
     const bool built = territory.HasFactory || territory.HasDefense;
     marker.imgCntry->setVisible(territory.Occupied);
     marker.imgExtra->setVisible(territory.Occupied && built);
@@ -135,14 +133,14 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
     }
     marker.lblCntry->move(x - 28, y + 12);
     marker.lblCntry->Show(std::to_string(territory.Troops) + "/" + std::to_string(territory.Tanks));
-    marker.lblCntry->setAccessibleName(ShortDescription(program_.game(), t));
+    marker.lblCntry->setAccessibleName(ShortDescription(game_, t));
 }
 
 void frm3::SetCommands(CommandSet available) {
     // The keyboard goes back to the board itself: an Enter too many after a report must not run a command.
     setFocus();
     for (const Command command : AllCommands) {
-        const std::string whyNot = WhyUnavailable(program_.game(), command);
+        const std::string whyNot = WhyUnavailable(game_, command);
         commands_[static_cast<std::size_t>(command)]->SetAvailable(
             available.Has(command),
             whyNot.empty() ? QStringLiteral("Another window wants to be closed first.") : Displayed(whyNot));
@@ -155,31 +153,19 @@ void frm3::ShowGameOver() {
     imgGameOver_->show();
 }
 
-void frm3::CloseSelection() {
-    tmrFirst_.stop();
-    if (selection_ != nullptr) {
-        selection_->CloseOutright();
-    }
-}
-
 void frm3::Run(Command command) {
-    if (!commands_[static_cast<std::size_t>(command)]->isEnabled()) {
-        return;
-    }
-    if (command == Command::EndTurn) {
-        program_.turn().EndTurn();
-    } else {
-        program_.screens().OpenDialog(command);
+    if (commands_[static_cast<std::size_t>(command)]->isEnabled()) {
+        navigation_.RunCommand(command);
     }
 }
 
 bool frm3::CloseRequested() {
-    if (!program_.game().GameOver &&
+    if (!game_.GameOver &&
         !AskWithIcon(this,
                      "Closing this game window will end the game.\rAre you sure you want to continue?")) {
         return false;
     }
-    program_.End();
+    navigation_.End();
     return true;
 }
 
@@ -210,7 +196,7 @@ void frm3::ShowTerritoryTip(const QHelpEvent& event) {
         return;
     }
     // As plain text: a player's name is whatever was typed.
-    const QString tip = FullDescription(program_.game(), *territory).toHtmlEscaped();
+    const QString tip = FullDescription(game_, *territory).toHtmlEscaped();
     QToolTip::showText(event.globalPos(), QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip), this);
 }
 

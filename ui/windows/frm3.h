@@ -3,22 +3,20 @@
 #include <QPointer>
 #include <QTimer>
 #include <array>
-#include <memory>
 
 #include "state/game_state.h"
 #include "turn/commands.h"
-#include "ui/parts/screen.h"
+#include "ui/windows/board_window.h"
 #include "ui/windows/territory_map.h"
 
 class QHelpEvent;
 
 namespace vorlund {
 
-class Program;
-class frmSelect;
+class GameNavigation;
 
 /// The board: the world map with every owner, building and force, and the command bar.
-class frm3 final : public Screen {
+class frm3 final : public BoardWindow {
     Q_OBJECT
 
 public:
@@ -27,24 +25,16 @@ public:
     static constexpr int ReportBottom = 428;
     static constexpr int DialogBottom = 517;
 
-    explicit frm3(Program& program);
-    ~frm3() override;
+    frm3(const GameState& game, GameNavigation& navigation);
 
     /// Shows the board: a loaded game goes on at once, a new one starts with the selection of territories.
     void Open();
 
-    /// Redraws every territory from the game.
-    void RefreshMap();
-
+    void RefreshMap() override;
     void SetCommands(CommandSet available);
     void ShowGameOver();
 
-    /// A click on a territory types its number into `field` when it is the field for territories that has, or
-    /// last had, the keyboard.
-    void TypeInto(Field& field);
-
-    /// Closes the selection screen outright, if it is open.
-    void CloseSelection();
+    void TypeInto(Field& field) override;
 
     /// The marker of player index `player`.
     const Picture& imgSet(int player) const { return imgSet_[static_cast<std::size_t>(player)]; }
@@ -68,7 +58,8 @@ private:
     void ShowTerritoryTip(const QHelpEvent& event);
     void Run(Command command);
 
-    Program& program_;
+    const GameState& game_;
+    GameNavigation& navigation_;
     std::array<Picture, MaxPlayers> imgSet_;
     std::array<Picture, 3> imgExtraSet_;
     Picture gameOver_;
@@ -76,7 +67,6 @@ private:
     std::array<CommandLabel*, NumCommands> commands_{};
     PictureLabel* imgGameOver_;
     QTimer tmrFirst_;
-    std::unique_ptr<frmSelect> selection_;
     TerritoryMap map_;
     QPointer<Field> territoryField_;  // the one that has, or last had, the keyboard
 };

@@ -2,13 +2,15 @@
 
 #include "actions/battle.h"
 #include "actions/strike.h"
-#include "ui/program.h"
+#include "ui/machine/sounds.h"
 
 namespace vorlund {
 
-frmAttack::frmAttack(Program& program)
-    : CommandDialog(program, QStringLiteral("frmAttack"), QStringLiteral("Vorlund - Attack"),
-                    QSize(414, 189)) {
+frmAttack::frmAttack(DialogHost& host, GameState& game, Random& random, Sounds& sounds)
+    : CommandDialog(host, QStringLiteral("frmAttack"), QStringLiteral("Vorlund - Attack"), QSize(414, 189)),
+      game_(game),
+      random_(random),
+      sounds_(sounds) {
     AddBattleHalf();
     AddLine(QStringLiteral("Line1"), QPoint(22, 108), 370);
     AddStrikeHalf();
@@ -16,10 +18,9 @@ frmAttack::frmAttack(Program& program)
 }
 
 void frmAttack::AddBattleHalf() {
-    const GameState& game = program().game();
     AddText(QStringLiteral("lbl1"), Face::Heading, QRect(0, 8, 120, 19), "Normal Attack:")
         ->setAlignment(Qt::AlignCenter);
-    AddText(QStringLiteral("lblA"), Face::Status, QRect(127, 8, 270, 19), AttacksLeftText(game));
+    AddText(QStringLiteral("lblA"), Face::Status, QRect(127, 8, 270, 19), AttacksLeftText(game_));
     TextLabel* lbl3 =
         AddText(QStringLiteral("lbl3"), Face::Caption, QRect(16, 40, 110, 19), "Attacking territory #:");
     TextLabel* label1 =
@@ -34,7 +35,7 @@ void frmAttack::AddBattleHalf() {
     txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
     lblAttack_ = AddCommand(QStringLiteral("lblAttack"), QStringLiteral("Attack"), QRect(336, 56, 60, 19));
     lblAttack_->SetKey(QStringLiteral("Enter"));
-    lblAttack_->SetAvailable(CanAttack(game), QStringLiteral("You have no attack left this turn."));
+    lblAttack_->SetAvailable(CanAttack(game_), QStringLiteral("You have no attack left this turn."));
     TakeTerritories({txtC1_, txtC2_});
     connect(lblAttack_, &CommandLabel::clicked, this, &frmAttack::Attack);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
@@ -43,17 +44,16 @@ void frmAttack::AddBattleHalf() {
 }
 
 void frmAttack::AddStrikeHalf() {
-    const GameState& game = program().game();
     AddText(QStringLiteral("lbl2"), Face::Heading, QRect(0, 120, 120, 19), "Nuclear Attack:")
         ->setAlignment(Qt::AlignCenter);
-    AddText(QStringLiteral("lblN"), Face::Status, QRect(123, 120, 270, 19), BombText(game));
+    AddText(QStringLiteral("lblN"), Face::Status, QRect(123, 120, 270, 19), BombText(game_));
     TextLabel* label2 =
         AddText(QStringLiteral("Label2"), Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
     txtN_ = AddField(label2, QStringLiteral("txtN"), QPoint(120, 152), 2);
     lblStrike_ =
         AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(296, 144, 108, 19));
     lblStrike_->SetKey(QStringLiteral("Enter"));
-    lblStrike_->SetAvailable(game.Current().HasNuke, QStringLiteral("You have no nuclear bomb."));
+    lblStrike_->SetAvailable(game_.Current().HasNuke, QStringLiteral("You have no nuclear bomb."));
     TakeTerritories({txtN_});
     connect(lblStrike_, &CommandLabel::clicked, this, &frmAttack::LaunchNuke);
     connect(txtN_, &Field::Entered, this, &frmAttack::LaunchNuke);
@@ -61,17 +61,17 @@ void frmAttack::AddStrikeHalf() {
 
 void frmAttack::Attack() {
     const AttackEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
-    const auto outcome = Attck(program().game(), program().random(), lblAttack_->isEnabled(), entries);
+    const auto outcome = Attck(game_, random_, lblAttack_->isEnabled(), entries);
     if (std::holds_alternative<Report>(outcome)) {
-        program().sound().PlayWave(Wave::Gun);
+        sounds_.PlayWave(Wave::Gun);
     }
     std::visit([this](const auto& result) { Settle(result); }, outcome);
 }
 
 void frmAttack::LaunchNuke() {
-    const auto outcome = Strike(program().game(), lblStrike_->isEnabled(), txtN_->Typed());
+    const auto outcome = Strike(game_, lblStrike_->isEnabled(), txtN_->Typed());
     if (std::holds_alternative<Report>(outcome)) {
-        program().sound().PlayWave(Wave::Explode);
+        sounds_.PlayWave(Wave::Explode);
     }
     std::visit([this](const auto& result) { Settle(result); }, outcome);
 }

@@ -1,15 +1,19 @@
 #pragma once
 
+#include "state/game_state.h"
+#include "state/random.h"
 #include "ui/windows/command_dialog.h"
 
 namespace vorlund {
+
+class Sounds;
 
 /// The attack dialog: a battle in its upper half, a nuclear strike in its lower one.
 class frmAttack final : public CommandDialog {
     Q_OBJECT
 
 public:
-    explicit frmAttack(Program& program);
+    frmAttack(DialogHost& host, GameState& game, Random& random, Sounds& sounds);
 
 private:
     void AddBattleHalf();
@@ -17,6 +21,9 @@ private:
     void Attack();
     void LaunchNuke();
 
+    GameState& game_;
+    Random& random_;
+    Sounds& sounds_;
     Field* txtC1_ = nullptr;
     Field* txtC2_ = nullptr;
     Field* txtTroops_ = nullptr;

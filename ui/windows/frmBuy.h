@@ -9,10 +9,12 @@ class frmBuy final : public TradeDialog {
     Q_OBJECT
 
 public:
-    explicit frmBuy(Program& program);
+    frmBuy(DialogHost& host, GameState& game);
 
 private:
     void Trade() override;
+
+    GameState& game_;
 };
 
 }  // namespace vorlund

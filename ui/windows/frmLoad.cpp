@@ -6,13 +6,15 @@
 
 #include "savegame/game_name.h"
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
+#include "ui/windows/title_navigation.h"
 
 namespace vorlund {
 
-frmLoad::frmLoad(Program& program)
+frmLoad::frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation& navigation)
     : Screen(nullptr, QStringLiteral("frmLoad"), QStringLiteral("Vorlund - Load Game"), QSize(340, 260)),
-      program_(program) {
+      game_(game),
+      saves_(saves),
+      navigation_(navigation) {
     TextLabel* lbl2 = AddText(QStringLiteral("lbl2"), Face::Heading, QRect(16, 12, 308, 20),
                               "Select a saved game from the list below:");
     flb1_ = new QListWidget(this);
@@ -38,7 +40,7 @@ frmLoad::frmLoad(Program& program)
 
 void frmLoad::FillList() {
     flb1_->clear();
-    const SavedGamesList list = program_.saves().List();
+    const SavedGamesList list = saves_.List();
     for (const std::string& file : list.Files) {
         // The name as it is on the disk goes along: not every name of bytes is one of characters.
         auto* item = new QListWidgetItem(QString::fromStdString(file), flb1_);
@@ -78,7 +80,7 @@ void frmLoad::Load() {
     if (!file) {
         return;
     }
-    const auto loaded = program_.saves().Load(*file, program_.game());
+    const auto loaded = saves_.Load(*file, game_);
     if (std::holds_alternative<NoSuchGame>(loaded)) {
         return;
     }
@@ -86,9 +88,8 @@ void frmLoad::Load() {
         Exclaim(this, error->Message);
         return;
     }
-    program_.game() = std::get<GameState>(loaded);
-    program_.OpenBoard();
-    CloseOutright();
+    game_ = std::get<GameState>(loaded);
+    navigation_.OpenBoard();
 }
 
 void frmLoad::Delete() {
@@ -96,14 +97,14 @@ void frmLoad::Delete() {
     if (!file || !Ask(this, DeleteQuestion(*file), QStringLiteral("Confirm Delete"))) {
         return;
     }
-    if (const auto error = program_.saves().Delete(*file)) {
+    if (const auto error = saves_.Delete(*file)) {
         Exclaim(this, *error);
     }
     FillList();
 }
 
 bool frmLoad::CloseRequested() {
-    program_.BackToTitle();
+    navigation_.BackToTitle();
     return true;
 }
 

@@ -4,18 +4,20 @@
 #include <optional>
 #include <string>
 
+#include "savegame/folder.h"
+#include "state/game_state.h"
 #include "ui/parts/screen.h"
 
 namespace vorlund {
 
-class Program;
+class TitleNavigation;
 
 /// The load screen: the saved games, to be resumed or deleted.
 class frmLoad final : public Screen {
     Q_OBJECT
 
 public:
-    explicit frmLoad(Program& program);
+    frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation& navigation);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -31,7 +33,9 @@ private:
     void FillList();
     std::optional<std::string> Selected() const;
 
-    Program& program_;
+    GameState& game_;
+    const SavedGamesFolder& saves_;
+    TitleNavigation& navigation_;
     QListWidget* flb1_;
     bool DoubleClicked_ = false;
 };

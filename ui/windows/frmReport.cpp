@@ -7,8 +7,7 @@
 #include <QScrollBar>
 #include <QWindow>
 
-#include "ui/program.h"
-#include "ui/windows/frm3.h"
+#include "ui/windows/game_navigation.h"
 
 namespace vorlund {
 namespace {
@@ -20,10 +19,10 @@ constexpr int PictureGap = 8;
 
 }  // namespace
 
-frmReport::frmReport(Program& program)
+frmReport::frmReport(GameNavigation& navigation)
     : Screen(nullptr, QStringLiteral("frmReport"), QStringLiteral("Vorlund - Report"), QSize(499, 220), {},
              Qt::Dialog),
-      program_(program) {
+      navigation_(navigation) {
     SetRole(QAccessible::AlertMessage);
     lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, HeadlineFrame);
     lbl1_->setAlignment(Qt::AlignCenter);
@@ -71,9 +70,6 @@ void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* ow
     scroll_->verticalScrollBar()->setValue(0);
     winId();
     windowHandle()->setTransientParent(owner != nullptr ? owner->windowHandle() : nullptr);
-    if (!isVisible()) {
-        PlaceOver(*this, *program_.screens().board(), frm3::ReportBottom);
-    }
     setAccessibleName(lbl1_->text());
     setAccessibleDescription(lbl2_->text());
     Present();
@@ -82,11 +78,7 @@ void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* ow
 }
 
 bool frmReport::CloseRequested() {
-    const bool stays = program_.turn().ReportClosed();
-    if (!stays) {
-        program_.screens().board()->activateWindow();
-    }
-    return !stays;
+    return !navigation_.ReportClosed();
 }
 
 bool frmReport::Scroll(int key) {

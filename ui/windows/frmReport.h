@@ -7,7 +7,7 @@ class QScrollArea;
 
 namespace vorlund {
 
-class Program;
+class GameNavigation;
 
 /// The report screen, the one on which every result and every turn is shown. What closing it means is the
 /// turn's affair. A body longer than its place scrolls.
@@ -15,7 +15,7 @@ class frmReport final : public Screen {
     Q_OBJECT
 
 public:
-    explicit frmReport(Program& program);
+    explicit frmReport(GameNavigation& navigation);
 
     /// Shows `report` in front of `owner`, or of no window in particular, with the player's `picture` if
     /// there is one.
@@ -28,7 +28,7 @@ protected:
 private:
     bool Scroll(int key);
 
-    Program& program_;
+    GameNavigation& navigation_;
     PictureLabel* imgC_;
     TextLabel* lbl1_;
     TextLabel* lbl2_;

@@ -2,7 +2,6 @@
 
 #include "savegame/game_name.h"
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
 
 namespace vorlund {
 namespace {
@@ -11,9 +10,10 @@ constexpr int MaxGameNameLength = 12;
 
 }  // namespace
 
-frmSave::frmSave(Program& program)
-    : CommandDialog(program, QStringLiteral("frmSave"), QStringLiteral("Vorlund - Save Game"),
-                    QSize(300, 96)) {
+frmSave::frmSave(DialogHost& host, const GameState& game, const SavedGamesFolder& saves)
+    : CommandDialog(host, QStringLiteral("frmSave"), QStringLiteral("Vorlund - Save Game"), QSize(300, 96)),
+      game_(game),
+      saves_(saves) {
     TextLabel* lbl1 = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 260, 20),
                               "Enter a name for the saved game:");
     txtSave_ = AddField(lbl1, QStringLiteral("txtSave"), QPoint(20, 50), MaxGameNameLength, 160);
@@ -33,13 +33,13 @@ void frmSave::Entr() {
     }
     const std::string file = FileNameOf(typed);
     using Kind = SaveResult::Kind;
-    SaveResult result = program().saves().Save(file, program().game(), false);
+    SaveResult result = saves_.Save(file, game_, false);
     if (result.Outcome == Kind::AlreadyThere) {
         if (!Ask(this, result.Message)) {
             Inform(this, NotSavedText);
             return;
         }
-        result = program().saves().Save(file, program().game(), true);
+        result = saves_.Save(file, game_, true);
     }
     const auto tell = result.Outcome == Kind::Saved ? Inform : Exclaim;
     tell(this, result.Message);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "savegame/folder.h"
+#include "state/game_state.h"
 #include "ui/windows/command_dialog.h"
 
 namespace vorlund {
@@ -9,11 +11,13 @@ class frmSave final : public CommandDialog {
     Q_OBJECT
 
 public:
-    explicit frmSave(Program& program);
+    frmSave(DialogHost& host, const GameState& game, const SavedGamesFolder& saves);
 
 private:
     void Entr();
 
+    const GameState& game_;
+    const SavedGamesFolder& saves_;
     Field* txtSave_;
 };
 

@@ -3,16 +3,17 @@
 #include <QApplication>
 
 #include "ui/parts/message_box.h"
-#include "ui/program.h"
-#include "ui/windows/frm3.h"
+#include "ui/windows/board_window.h"
+#include "ui/windows/game_navigation.h"
 
 namespace vorlund {
 
-frmSelect::frmSelect(Program& program, frm3& board)
+frmSelect::frmSelect(BoardWindow& board, GameState& game, Random& random, GameNavigation& navigation)
     : Screen(&board, QStringLiteral("frmSelect"), QStringLiteral("Vorlund - Territory Select"),
              QSize(360, 140), {}, Qt::Dialog),
-      program_(program),
-      selection_(program.game(), program.random()) {
+      board_(board),
+      navigation_(navigation),
+      selection_(game, random) {
     lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(16, 12, 328, 58));
     lbl1_->setAlignment(Qt::AlignCenter);
     TextLabel* lbl2 =
@@ -27,7 +28,6 @@ frmSelect::frmSelect(Program& program, frm3& board)
     board.TypeInto(*txtNum_);
     txtNum_->setFocus();
     lbl1_->Show(selection_.Open());
-    PlaceOver(*this, board, frm3::DialogBottom);
 }
 
 void frmSelect::Entr() {
@@ -38,18 +38,16 @@ void frmSelect::Entr() {
         QApplication::beep();
         return;
     }
-    program_.screens().RefreshMap();
+    board_.RefreshMap();
     if (step.What == Selection::Step::Kind::Ended) {
-        hide();
-        program_.turn().OpenFirstTurn();
-        CloseOutright();
+        navigation_.SelectionEnded();
     }
 }
 
 bool frmSelect::CloseRequested() {
     if (Ask(this,
             "Closing this window will terminate your new game.\rPress 'yes' to exit or 'no' to return.")) {
-        program_.End();
+        navigation_.End();
         return true;
     }
     return false;

@@ -5,15 +5,15 @@
 
 namespace vorlund {
 
-class Program;
-class frm3;
+class BoardWindow;
+class GameNavigation;
 
 /// The selection screen of a new game's opening round: each human player types the number of a territory.
 class frmSelect final : public Screen {
     Q_OBJECT
 
 public:
-    frmSelect(Program& program, frm3& board);
+    frmSelect(BoardWindow& board, GameState& game, Random& random, GameNavigation& navigation);
 
 protected:
     bool CloseRequested() override;
@@ -21,7 +21,8 @@ protected:
 private:
     void Entr();
 
-    Program& program_;
+    BoardWindow& board_;
+    GameNavigation& navigation_;
     Selection selection_;
     TextLabel* lbl1_;
     Field* txtNum_;

@@ -1,23 +1,23 @@
 #include "ui/windows/frmSell.h"
 
-#include "turn/victory.h"
-#include "ui/program.h"
+#include "ui/windows/dialog_host.h"
 
 namespace vorlund {
 
-frmSell::frmSell(Program& program)
-    : TradeDialog(program,
+frmSell::frmSell(DialogHost& host, GameState& game)
+    : TradeDialog(host,
                   {QStringLiteral("frmSell"), QStringLiteral("Vorlund - Sell"), QSize(348, 135), 76, 130, 246,
                    "Territory #:", "Number of Troops($7):", "Number of Tanks($30):", "Barrels of Oil($1/3):",
                    QStringLiteral("Sell")},
-                  "You may sell oil or Troops/Tanks in any of your territories.") {}
+                  "You may sell oil or Troops/Tanks in any of your territories."),
+      game_(game) {}
 
 void frmSell::Trade() {
-    std::visit([this](const auto& outcome) { Settle(outcome); }, Sell(program().game(), Entries()));
+    std::visit([this](const auto& outcome) { Settle(outcome); }, Sell(game_, Entries()));
 }
 
 void frmSell::Settle(const NoSurvivor&) {
-    NobodyWins(program().game(), program().screens());
+    host().NobodyIsLeft();
 }
 
 }  // namespace vorlund

@@ -10,13 +10,15 @@ class frmSell final : public TradeDialog {
     Q_OBJECT
 
 public:
-    explicit frmSell(Program& program);
+    frmSell(DialogHost& host, GameState& game);
 
 private:
     void Trade() override;
 
     using CommandDialog::Settle;
     void Settle(const NoSurvivor& end);
+
+    GameState& game_;
 };
 
 }  // namespace vorlund

@@ -3,8 +3,6 @@
 #include <QKeyEvent>
 
 #include "actions/status.h"
-#include "ui/program.h"
-#include "ui/windows/frm3.h"
 
 namespace vorlund {
 namespace {
@@ -14,8 +12,9 @@ constexpr int LineHeight = 22;
 
 }  // namespace
 
-frmStatus::frmStatus(Program& program) : CommandDialog(program, QStringLiteral("frmStatus"), {}, Size) {
-    const StatusLines lines = DescribeStatus(program.game());
+frmStatus::frmStatus(DialogHost& host, const GameState& game, const Picture& marker)
+    : CommandDialog(host, QStringLiteral("frmStatus"), {}, Size) {
+    const StatusLines lines = DescribeStatus(game);
     setWindowTitle(Displayed(lines.Title));
     struct Row {
         const char* Caption = nullptr;
@@ -44,7 +43,7 @@ frmStatus::frmStatus(Program& program) : CommandDialog(program, QStringLiteral("
         y += row.Lines * LineHeight - (row.Lines - 1) * 8;
     }
     auto* img1 = new PictureLabel(this, QStringLiteral("img1"), QRect(22, 20, 10, 10));
-    img1->Show(&program.screens().board()->imgSet(program.game().CurrentPlayer));
+    img1->Show(&marker);
     CommandLabel* lblCont =
         AddCommand(QStringLiteral("lblCont"), QStringLiteral("Close"), QRect(130, 308, 60, 19));
     lblCont->SetKey(QStringLiteral("Enter"));

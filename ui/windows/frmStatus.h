@@ -1,5 +1,6 @@
 #pragma once
 
+#include "state/game_state.h"
 #include "ui/windows/command_dialog.h"
 
 namespace vorlund {
@@ -9,7 +10,8 @@ class frmStatus final : public CommandDialog {
     Q_OBJECT
 
 public:
-    explicit frmStatus(Program& program);
+    /// `marker` is the current player's.
+    frmStatus(DialogHost& host, const GameState& game, const Picture& marker);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,15 +1,15 @@
 #include "ui/windows/frmTransport.h"
 
-#include "ui/program.h"
+#include "ui/windows/dialog_host.h"
 
 namespace vorlund {
 
-frmTransport::frmTransport(Program& program)
-    : CommandDialog(program, QStringLiteral("frmTransport"), QStringLiteral("Vorlund - Transport"),
-                    QSize(391, 110)) {
+frmTransport::frmTransport(DialogHost& host, GameState& game)
+    : CommandDialog(host, QStringLiteral("frmTransport"), QStringLiteral("Vorlund - Transport"),
+                    QSize(391, 110)),
+      game_(game) {
     AddText(QStringLiteral("lbl1"), Face::Heading, QRect(8, 5, 124, 19), "Move Tanks/Troops:");
-    lblA_ =
-        AddText(QStringLiteral("lblA"), Face::Status, QRect(134, 5, 251, 19), MovesLeftText(program.game()));
+    lblA_ = AddText(QStringLiteral("lblA"), Face::Status, QRect(134, 5, 251, 19), MovesLeftText(game));
     TextLabel* lbl3 =
         AddText(QStringLiteral("lbl3"), Face::Caption, QRect(10, 40, 112, 19), "Original territory #:");
     txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(124, 40), 2);
@@ -35,12 +35,11 @@ frmTransport::frmTransport(Program& program)
 
 void frmTransport::Move() {
     const TransportEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
-    std::visit([this](const auto& outcome) { Settle(outcome); },
-               Tran(program().game(), lblGo_->isEnabled(), entries));
+    std::visit([this](const auto& outcome) { Settle(outcome); }, Tran(game_, lblGo_->isEnabled(), entries));
 }
 
 void frmTransport::Settle(const Moved& moved) {
-    program().screens().RefreshMap();
+    host().Board().RefreshMap();
     lblA_->Show(moved.StatusLine);
     txtTroops_->clear();
     txtTanks_->clear();
@@ -48,7 +47,7 @@ void frmTransport::Settle(const Moved& moved) {
 }
 
 void frmTransport::ShowWhetherMovesAreLeft() {
-    lblGo_->SetAvailable(CanMove(program().game()), QStringLiteral("You have no move left this turn."));
+    lblGo_->SetAvailable(CanMove(game_), QStringLiteral("You have no move left this turn."));
 }
 
 }  // namespace vorlund

@@ -10,7 +10,7 @@ class frmTransport final : public CommandDialog {
     Q_OBJECT
 
 public:
-    explicit frmTransport(Program& program);
+    frmTransport(DialogHost& host, GameState& game);
 
 private:
     void Move();
@@ -19,6 +19,7 @@ private:
     using CommandDialog::Settle;
     void Settle(const Moved& moved);
 
+    GameState& game_;
     TextLabel* lblA_;
     Field* txtC1_;
     Field* txtC2_;

@@ -1,7 +1,7 @@
 #include "ui/windows/frmUpgrade.h"
 
 #include "actions/buy.h"
-#include "ui/program.h"
+#include "ui/windows/dialog_host.h"
 
 namespace vorlund {
 namespace {
@@ -14,9 +14,10 @@ QString Numbered(const char* stem, int number) {
 
 }  // namespace
 
-frmUpgrade::frmUpgrade(Program& program)
-    : CommandDialog(program, QStringLiteral("frmUpgrade"), QStringLiteral("Vorlund - Upgrade"),
-                    QSize(Width, 277)) {
+frmUpgrade::frmUpgrade(DialogHost& host, GameState& game)
+    : CommandDialog(host, QStringLiteral("frmUpgrade"), QStringLiteral("Vorlund - Upgrade"),
+                    QSize(Width, 277)),
+      game_(game) {
     lblTop_ = AddText(QStringLiteral("lblTop"), Face::Status, QRect(8, 4, Width - 16, 34));
     AddLine(QStringLiteral("Line1"), QPoint(12, 41), Width - 24);
     AddTrack(Track::Economy, "Economy", 1, 46);
@@ -38,7 +39,7 @@ void frmUpgrade::AddTrack(Track track, const char* name, int number, int y) {
     row.Go->SetKey(QStringLiteral("Alt+%1").arg(number));
     row.Go->setShortcut(QKeySequence(row.Go->Key()));
     connect(row.Go, &CommandLabel::clicked, this, [this, track] {
-        std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(program().game(), track));
+        std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(game_, track));
     });
     tracks_[static_cast<std::size_t>(number - 1)] = row;
 }
@@ -56,7 +57,7 @@ void frmUpgrade::AddConstruction(int number, int y, const char* captionName, con
     field->setAccessibleDescription(command);
     go->SetKey(QStringLiteral("Enter"));
     const auto run = [this, field, build] {
-        std::visit([this](const auto& outcome) { Settle(outcome); }, build(program().game(), field->Typed()));
+        std::visit([this](const auto& outcome) { Settle(outcome); }, build(game_, field->Typed()));
     };
     connect(go, &CommandLabel::clicked, this, run);
     connect(field, &Field::Entered, this, run);
@@ -68,9 +69,9 @@ void frmUpgrade::Update(const std::string& message) {
     for (Field* field : fields_) {
         field->clear();
     }
-    lblTop_->Show(message + MoneyLine(program().game()));
+    lblTop_->Show(message + MoneyLine(game_));
     for (const TrackRow& row : tracks_) {
-        const TrackStatus status = StatusOf(program().game(), row.Which);
+        const TrackStatus status = StatusOf(game_, row.Which);
         row.Status->Show(status.Text);
         row.Go->SetAvailable(status.CanRise, QStringLiteral("This upgrade is at its highest level."));
     }
@@ -78,7 +79,7 @@ void frmUpgrade::Update(const std::string& message) {
 
 void frmUpgrade::Settle(const Purchase& purchase) {
     Update(purchase.Message);
-    program().screens().RefreshMap();
+    host().Board().RefreshMap();
 }
 
 }  // namespace vorlund

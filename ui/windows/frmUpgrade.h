@@ -13,7 +13,7 @@ class frmUpgrade final : public CommandDialog {
     Q_OBJECT
 
 public:
-    explicit frmUpgrade(Program& program);
+    frmUpgrade(DialogHost& host, GameState& game);
 
 private:
     struct TrackRow {
@@ -34,6 +34,7 @@ private:
     void Settle(const Nothing&) {}
     void Settle(const Purchase& purchase);
 
+    GameState& game_;
     TextLabel* lblTop_;
     std::array<TrackRow, 3> tracks_{};
     std::array<Field*, 2> fields_{};

@@ -10,8 +10,8 @@ constexpr int TerritoryY = TroopsY + RowHeight / 2;
 
 }  // namespace
 
-TradeDialog::TradeDialog(Program& program, const Layout& layout, std::string_view topLine)
-    : CommandDialog(program, layout.Name, layout.Title, layout.Size) {
+TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_view topLine)
+    : CommandDialog(host, layout.Name, layout.Title, layout.Size) {
     AddText(QStringLiteral("lblA"), Face::Status, QRect(8, 5, layout.Size.width() - 16, 19), topLine)
         ->setAlignment(Qt::AlignCenter);
     const auto row = [&](const char* name, const char* field, const char* caption, int line) {

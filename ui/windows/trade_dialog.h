@@ -25,7 +25,7 @@ protected:
         QString Command;
     };
 
-    TradeDialog(Program& program, const Layout& layout, std::string_view topLine);
+    TradeDialog(DialogHost& host, const Layout& layout, std::string_view topLine);
 
     TradeEntries Entries() const;
 
