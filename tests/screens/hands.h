@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+#include "ui/machine/sounds.h"
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
 
