@@ -138,6 +138,53 @@ TEST(Crossings, NothingClosesWhileAWinnerIsAnnounced) {
     EXPECT_EQ(Desktop(), "Vorlund - Ben wins []");
 }
 
+// The windows that exist, in alphabetical order, whether they are seen or not.
+QString Existing() {
+    QTest::qWait(1);
+    QStringList names;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<const Screen*>(window) != nullptr) {
+            names << window->objectName();
+        }
+    }
+    names.sort();
+    return names.join(' ');
+}
+
+TEST(Crossings, AClosedWindowIsDestroyed) {
+    {
+        Sitting newGame;
+        Type(" ");
+        EXPECT_EQ(Existing(), "frm2");
+        const int music = newGame.Recorded().Music;
+        QTest::qWait(300);
+        EXPECT_EQ(newGame.Recorded().Music, music);  // the title's timers have gone with it
+        Type("\nAnna\t\tBen\n");
+        Window("frmSelect");
+        EXPECT_EQ(Existing(), "frm3 frmReport frmSelect");
+        Type("7\n8\n");
+        EXPECT_EQ(Existing(), "frm3 frmReport");
+        EXPECT_EQ(Desktop().section(" | ", 1), "Vorlund - Upkeep");
+    }
+    Sitting sitting;
+    Click("frm1", "lblLoad");
+    EXPECT_EQ(Existing(), "frm1 frmLoad");
+    Close("frmLoad");
+    EXPECT_EQ(Existing(), "frm1");
+    sitting.Resume(Neighbours);
+    EXPECT_EQ(Existing(), "frm3 frmReport");
+    for (const char key : {'b', 's', 'r', 'a', 'u', 't', 'v'}) {
+        Type(QString(QLatin1Char(key)) + "1");
+        Type("\033");
+        EXPECT_EQ(Existing(), "frm3 frmReport") << key;
+    }
+    Type("b");
+    EXPECT_EQ(Text("frmBuy", "txtC1"), "");
+    sitting.Expect({Leave, "y"});
+    EXPECT_TRUE(Ends([] { Close("frm3"); }));
+    EXPECT_EQ(Existing(), "frm3 frmReport");
+}
+
 TEST(Crossings, HandsQuickerThanAClosing) {
     Sitting sitting;
     sitting.Resume(Neighbours);
