@@ -26,7 +26,7 @@ bool IsAbsence(int error) {
     return error == ENOENT || error == ENOTDIR;
 }
 
-const char* NameOf(FileKind kind) {
+std::string NameOf(FileKind kind) {
     constexpr std::array<const char*, 5> names{"file", "folder", "pipe", "socket", "device"};
     return names[static_cast<std::size_t>(kind)];
 }
@@ -71,7 +71,7 @@ std::optional<bool> SavedGamesFolder::FileExists(const std::string& path, std::s
     if (error == 0 && kind == FileKind::File) {
         return true;
     }
-    whyNot = error != 0 ? Reason(error) : std::string("There is a ") + NameOf(kind) + " of that name.";
+    whyNot = error != 0 ? Reason(error) : "There is a " + NameOf(kind) + " of that name.";
     return std::nullopt;
 }
 

@@ -34,6 +34,10 @@ std::string ParentOf(const std::string& path) {
     return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
 }
 
+std::string Inside(const std::string& folder, const std::string& name) {
+    return folder + "/" + name;
+}
+
 /// Makes `path` the one that it leads to, when it is a link. 0 or the error.
 int FollowLinks(const SystemCalls& calls, std::string& path) {
     for (int links = 0; links < MostLinks; ++links) {
@@ -41,7 +45,7 @@ int FollowLinks(const SystemCalls& calls, std::string& path) {
         if (const int error = ErrorOf(Repeat([&] { return calls.ReadLink(path, target); }))) {
             return error == EINVAL || error == ENOENT ? 0 : error;
         }
-        path = target.starts_with('/') ? target : ParentOf(path) + "/" + target;
+        path = target.starts_with('/') ? target : Inside(ParentOf(path), target);
     }
     return ELOOP;
 }
@@ -73,7 +77,7 @@ void RemoveLeftovers(const SystemCalls& calls, const std::string& folder) {
     Repeat([&] { return calls.ListFolder(folder, names); });
     std::erase_if(names, [](const std::string& name) { return !IsUnfinished(name); });
     for (const std::string& name : names) {
-        const std::string path = folder + "/" + name;
+        const std::string path = Inside(folder, name);
         FileKind kind{};
         if (Repeat([&] { return calls.Look(path, kind); }) == -1 || kind != FileKind::File) {
             continue;
@@ -91,7 +95,7 @@ int Begin(const SystemCalls& calls, const std::string& folder, Unfinished& fresh
     for (int number = 1; number <= MostUnfinished; ++number) {
         fresh.Name = std::string(UnfinishedStart) + std::to_string(calls.Process) + "-" +
                      std::to_string(number) + std::string(UnfinishedEnd);
-        fresh.Path = folder + "/" + fresh.Name;
+        fresh.Path = Inside(folder, fresh.Name);
         fresh.File = Repeat([&] { return calls.CreateNew(fresh.Path); });
         if (fresh.File == -1 && errno != EEXIST) {
             return errno;

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <system_error>
 
 #include "savegame/folder.h"
@@ -14,6 +15,12 @@
 #include "tests/rules/small_worlds.h"
 
 namespace vorlund {
+
+/// How an outcome is printed when it is not the one that was due.
+void PrintTo(const SaveResult& result, std::ostream* out) {
+    *out << static_cast<int>(result.Outcome) << " " << result.Message;
+}
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -83,13 +90,12 @@ struct SavedGames : testing::Test {
         std::ofstream(path / file, std::ios::binary) << bytes;
     }
 
-    /// Everything in the folder, sorted.
-    std::vector<std::string> Files() const {
-        std::vector<std::string> files;
+    /// Everything in the folder.
+    std::set<std::string> Files() const {
+        std::set<std::string> files;
         for (const auto& entry : fs::directory_iterator(path)) {
-            files.push_back(entry.path().filename());
+            files.insert(entry.path().filename());
         }
-        std::sort(files.begin(), files.end());
         return files;
     }
 
@@ -214,8 +220,8 @@ TEST_F(SavedGames, OfTwoCopiesDoNotDisturbEachOther) {
         calls = one.Names.size();
     }
     EXPECT_EQ(Content(path / "my.vrs"), New);
-    EXPECT_EQ(Files(), (std::vector<std::string>{"my.vrs", "other.vrs", own, "unfinished-7-1.tmp.vrs",
-                                                 "unfinished-x-1.tmp"}));
+    EXPECT_EQ(Files(), (std::set<std::string>{"my.vrs", "other.vrs", own, "unfinished-7-1.tmp.vrs",
+                                              "unfinished-x-1.tmp"}));
 }
 
 TEST_F(SavedGames, BehindALinkAreReplacedAndTheLinkStays) {

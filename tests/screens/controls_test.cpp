@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <QWindow>
 #include <cerrno>
+#include <system_error>
 
 #include "tests/rules/small_worlds.h"
 #include "tests/screens/hands.h"
@@ -48,6 +49,10 @@ QString Tabs() {
         stops.back() += seen ? "" : "?";
     }
     return stops.join(' ');
+}
+
+QString Reason(int error) {
+    return QString::fromLocal8Bit(std::generic_category().message(error)) + ".";
 }
 
 TEST(Controls, TheTabKeyLeadsToEverything) {
@@ -219,7 +224,7 @@ TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
     calls.SyncFileSystem = fails;
     sitting.Folder() = SavedGamesFolder(sitting.Saves().toStdString(), calls);
     sitting.Expect(
-        {"Warning: Game 'ab.vrs' saved, but a power cut now could still lose it.\nInput/output error."});
+        {"Warning: Game 'ab.vrs' saved, but a power cut now could still lose it.\n" + Reason(EIO)});
     Type("b\n");
     EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [bsrautev]");
 }
@@ -227,7 +232,7 @@ TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
 TEST(Controls, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
     Sitting sitting;
     sitting.Folder() = SavedGamesFolder("/dev/null");
-    sitting.Expect({"Warning: The saved games could not be listed.\nNot a directory."});
+    sitting.Expect({"Warning: The saved games could not be listed.\n" + Reason(ENOTDIR)});
     Click("frm1", "lblLoad");
     Click("frmLoad", "lblGo(2)");
     EXPECT_EQ(Desktop(), "Vorlund");
