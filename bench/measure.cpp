@@ -10,7 +10,7 @@
 #include "bench/first_paint.h"
 #include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
-#include "ui/machine/sound.h"
+#include "ui/machine/sound_player.h"
 #include "ui/program.h"
 
 // What the game costs, against its budgets, in one table. By itself it measures; called with "title" or
@@ -109,7 +109,7 @@ struct Run {
     GameState Game;
     ClockRandom Chance;
     SavedGamesFolder Saves{"/none"};
-    Sound Sounds;
+    SoundPlayer Sounds{QStringLiteral(SOUND_MODULE)};
     Program Windows{Game, Chance, Saves, Sounds};
 };
 

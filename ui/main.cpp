@@ -3,7 +3,7 @@
 
 #include "ui/machine/data_folder.h"
 #include "ui/machine/single_copy.h"
-#include "ui/machine/sound.h"
+#include "ui/machine/sound_player.h"
 #include "ui/parts/accessible.h"
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
@@ -20,11 +20,14 @@ int main(int, char** arguments) {
     // The game has no command line, so the toolkit gets none either.
     int count = 1;
     std::array<char*, 2> name{arguments[0], nullptr};
+    vorlund::QuietenSoundServers();
     const QApplication application(count, name.data());
     QApplication::setApplicationName(QStringLiteral("vorlund"));
     QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
     QApplication::setQuitOnLastWindowClosed(false);
 
+    // It goes last: the click of Exit is still heard when the windows are gone and another copy may start.
+    vorlund::SoundPlayer sounds(QApplication::applicationDirPath() + QStringLiteral(VORLUND_SOUND_MODULE));
     const vorlund::SingleCopy copy;
     if (copy.OtherIsRunning()) {
         return AnotherCopyRuns;
@@ -34,7 +37,6 @@ int main(int, char** arguments) {
     vorlund::DescribeScreensToAssistiveTechnology();
     vorlund::GameState game;
     vorlund::ClockRandom random;
-    vorlund::Sound sounds;
     vorlund::Program program(game, random, saves, sounds);
     program.Start();
     return QApplication::exec();

@@ -4,7 +4,7 @@
 
 #include "tests/engine/games.h"
 #include "tests/engine/seeded_random.h"
-#include "ui/machine/sound.h"
+#include "ui/machine/sound_player.h"
 #include "ui/parts/held_keys.h"
 #include "ui/program.h"
 #include "ui/windows/command_dialog.h"
@@ -253,7 +253,7 @@ private:
     GameState game_;
     SeededRandom chance_{static_cast<std::uint32_t>(seed_)};
     SavedGamesFolder saves_{folder_.path().toStdString()};
-    Sound sounds_;
+    SoundPlayer sounds_{QStringLiteral(SOUND_MODULE)};
     Program program_{game_, chance_, saves_, sounds_};
     qsizetype eventsAllowed_ = 0;
     QStringList done_;

@@ -1,7 +1,6 @@
-#include "ui/machine/sound.h"
-
 #include <fcntl.h>
 #include <poll.h>
+#include <pthread.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,10 +10,66 @@
 #include <QtEndian>
 #include <algorithm>
 
+#include "tests/engine/seeded_random.h"
+#include "tests/rules/small_worlds.h"
 #include "tests/screens/hands.h"
+#include "ui/machine/sound_player.h"
 
 namespace vorlund {
 namespace {
+
+// Which recording is started where.
+
+TEST(Recordings, TheMusicOnceAndAClickForEveryCommandOfTheTitle) {
+    Sitting sitting;
+    const SoundRecorder& recorded = sitting.Recorded();
+    Click("frm1", "lblLoad");  // the timers of the hidden title go on
+    EXPECT_EQ(sitting.Heard(), "Beep");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return recorded.Music == 1; }));
+    Click("frmLoad", "lblGo(2)");
+    QTest::qWait(300);
+    EXPECT_EQ(recorded.Music, 1);
+    EXPECT_EQ(sitting.Heard(), "Beep");
+    EXPECT_TRUE(Ends([] { Click("frm1", "lblExit"); }));
+    EXPECT_EQ(sitting.Heard(), "Beep Beep");
+    Sitting left;
+    Click("frm1", "lblPlay");
+    const int before = left.Recorded().Music;
+    QTest::qWait(300);
+    EXPECT_EQ(left.Recorded().Music, before) << "the timers stop with the title";
+    EXPECT_EQ(left.Heard(), "Beep");
+}
+
+// Numbers on the map in the moment in which a recording starts.
+TEST(Recordings, GunfireAndExplosionBeforeTheMapIsRedrawn) {
+    Sitting sitting;
+    sitting.Resume(NewGame(3, "7 Anna 30/1; 8 Ben 8/0; 6 Ben 1/0; 36 Cleo 5/0; Anna HasNuke 1"));
+    QStringList seen;
+    sitting.Recorded().WhenPlayed = [&] {
+        seen << Text("frm3", "lblCntry(6)") + ' ' + Text("frm3", "lblCntry(7)");
+    };
+    Type("a\t\t\t\t8\n");
+    EXPECT_EQ(Text("frm3", "lblCntry(7)"), "4/0");
+    Type("\na7\t8\t20\n");
+    EXPECT_EQ(Text("frm3", "lblCntry(7)"), "20/0");
+    EXPECT_EQ(seen.join(" | "), "30/1 8/0 | 30/1 4/0");
+    EXPECT_EQ(sitting.Heard(), "Beep Explode Gun");
+}
+
+TEST(Recordings, NoneForRefusalsAndForWhatComputersDo) {
+    Sitting sitting(std::make_unique<SeededRandom>(3));
+    sitting.Resume(NewGame(3,
+                           "7 Anna 1/0; 15 Anna 90/0; 8 Ben 99/0; 36 Cleo 5/0; Anna HasNuke 1; "
+                           "Ben IsComputer 1 HasNuke 1"));
+    sitting.Expect({"Warning: Enter a number for either troops or tanks."});
+    Type("a7\t8\n");
+    sitting.Expect({"Warning: The country number must be 1-42."});
+    Type("\t\t\t43\n\033e");
+    EXPECT_TRUE(ReportText().contains("was nuked") && ReportText().contains("Attack on Midwest USA"));
+    EXPECT_EQ(sitting.Heard(), "Beep");
+}
+
+// What the player makes of them.
 
 constexpr std::size_t HalfSecond = 11025;
 
@@ -33,6 +88,12 @@ std::vector<int> Samples(const QString& path, qint64 start = 0) {
 int Loudest(const std::vector<int>& samples) {
     const auto [low, high] = std::minmax_element(samples.begin(), samples.end());
     return samples.empty() ? 0 : std::max(-*low, *high);
+}
+
+// How long the sound is without the silence behind it.
+double Length(const std::vector<int>& samples) {
+    return double(samples.rend() -
+                  std::find_if(samples.rbegin(), samples.rend(), [](int x) { return x != 0; }));
 }
 
 // A device that writes what is played to a file.
@@ -61,23 +122,22 @@ TEST_F(SoundOnDisk, EveryRecordingIsHeardInItsLength) {
         {Wave::Beep, 2039}, {Wave::Gun, 47002}, {Wave::Explode, 60378}};
     for (const auto& [wave, length] : rows) {
         SCOPED_TRACE(static_cast<int>(wave));
-        Sound sound;
-        sound.PlayWave(wave);
+        SoundPlayer sounds(SOUND_MODULE);
+        sounds.PlayWave(wave);
         EXPECT_TRUE(QTest::qWaitFor([this, due = length] { return Samples(output_).size() > due; }, 10000));
         const std::vector<int> heard = Samples(output_);
         EXPECT_TRUE(Loudest(heard) > 16000 && Loudest(heard) < 32000) << Loudest(heard);
-        const auto last = std::find_if(heard.rbegin(), heard.rend(), [](int x) { return x != 0; });
-        EXPECT_NEAR(double(heard.rend() - last), double(length), 10);
+        EXPECT_NEAR(Length(heard), double(length), 10);
         QFile::remove(output_);
     }
 }
 
 TEST_F(SoundOnDisk, TheClickCutsOffTheMusic) {
-    Sound sound;
-    sound.PlayWave(Wave::Vrl1);
+    SoundPlayer sounds(SOUND_MODULE);
+    sounds.PlayWave(Wave::Vrl1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return Samples(output_).size() > HalfSecond; }));
     EXPECT_TRUE(HeardAfterMusic().empty());
-    sound.PlayWave(Wave::Beep);
+    sounds.PlayWave(Wave::Beep);
     EXPECT_TRUE(QTest::qWaitFor([this] { return HeardAfterMusic().size() > HalfSecond; }));
     const std::vector<int> click = HeardAfterMusic();
     EXPECT_GT(Loudest(click), 16000);
@@ -90,19 +150,47 @@ TEST_F(SoundOnDisk, TheClickCutsOffTheMusic) {
     EXPECT_TRUE(QTest::qWaitFor(isClosed)) << "a silent game holds no device";
 }
 
-TEST_F(SoundOnDisk, WithoutADeviceNothingIsPrinted) {
+TEST_F(SoundOnDisk, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
+    SoundPlayer(SOUND_MODULE).PlayWave(Wave::Beep);
+    EXPECT_NEAR(Length(Samples(output_)), 2039, 10);
+    {
+        SoundPlayer sounds(SOUND_MODULE);
+        sounds.PlayWave(Wave::Vrl1);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return Samples(output_).size() > HalfSecond; }));
+    }
+    EXPECT_LT(Samples(output_).size(), 3 * HalfSecond);
+}
+
+TEST_F(SoundOnDisk, NothingIsPrintedWhereNothingCanBePlayed) {
+    QuietenSoundServers();
     qputenv("AUDIODEV", "no-such-card");
     qputenv("PULSE_RUNTIME_PATH", "/proc/none");  // a folder that the server's library fails to make
-    for (const char* driver : {"gramophone", "dummy", "alsa", "pulseaudio"}) {
+    for (const char* driver : {"gramophone", "dummy", "alsa", "pulseaudio", ""}) {
         qputenv("SDL_AUDIODRIVER", driver);
         testing::internal::CaptureStderr();
         {
-            Sound sound;
-            sound.PlayWave(Wave::Gun);
+            SoundPlayer sounds(*driver == '\0' ? "/no/module" : SOUND_MODULE);
+            sounds.PlayWave(Wave::Gun);
             QTest::qWait(300);  // nothing shows that an attempt has failed
+            sounds.PlayWave(Wave::Beep);
         }
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << driver;
     }
+}
+
+TEST_F(SoundOnDisk, WithoutAThreadTheGameIsSilent) {
+    SoundPlayer sounds(SOUND_MODULE);
+    pthread_attr_t usual;
+    pthread_attr_t huge;
+    ASSERT_EQ(pthread_getattr_default_np(&usual) + pthread_getattr_default_np(&huge), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&huge, std::size_t{1} << 47),
+              0);  // a stack for which there is no room
+    ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
+    EXPECT_NO_THROW(sounds.PlayWave(Wave::Gun));
+    ASSERT_EQ(pthread_setattr_default_np(&usual), 0);
+    EXPECT_FALSE(QFile::exists(output_));
+    sounds.PlayWave(Wave::Beep);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Samples(output_).empty(); })) << "threads are back";
 }
 
 TEST_F(SoundOnDisk, ADeviceThatHangsDelaysNobody) {
@@ -110,10 +198,10 @@ TEST_F(SoundOnDisk, ADeviceThatHangsDelaysNobody) {
     QElapsedTimer time;
     time.start();
     {
-        Sound sound;
-        sound.PlayWave(Wave::Beep);
+        SoundPlayer sounds(SOUND_MODULE);
+        sounds.PlayWave(Wave::Gun);
         QTest::qWait(300);
-        sound.PlayWave(Wave::Gun);
+        sounds.PlayWave(Wave::Beep);
     }
     EXPECT_LT(time.elapsed(), 3000);
     // Opening the other end lets the device go on, and shows that it was waiting.
