@@ -73,7 +73,17 @@ TEST(Recordings, NoneForRefusalsAndForWhatComputersDo) {
 
 constexpr std::size_t HalfSecond = 11025;
 
-// Samples of 16 bits from byte `start` on, without the silence before them; none if there is no such file.
+// Newer releases of the sound library open no device below 44,100 a second in stereo.
+bool IsStereo(const std::vector<int>& samples) {
+    bool same = true;
+    for (std::size_t i = 0; i + 1 < samples.size(); i += 2) {
+        same = same && samples[i] == samples[i + 1];
+    }
+    return same;
+}
+
+// Samples of 16 bits, 22,050 a second, from byte `start` on, without the silence before them; none if there
+// is no such file.
 std::vector<int> Samples(const QString& path, qint64 start = 0) {
     QFile file(path);
     const QByteArray bytes =
@@ -81,6 +91,12 @@ std::vector<int> Samples(const QString& path, qint64 start = 0) {
     std::vector<int> samples;
     for (qsizetype i = 0; i + 1 < bytes.size(); i += 2) {
         samples.push_back(qFromLittleEndian<qint16>(bytes.constData() + i));
+    }
+    if (IsStereo(samples)) {
+        for (std::size_t i = 0; i < samples.size(); i += 4) {
+            samples[i / 4] = samples[i];
+        }
+        samples.resize((samples.size() + 3) / 4);
     }
     return {std::find_if(samples.begin(), samples.end(), [](int x) { return x != 0; }), samples.end()};
 }
@@ -126,8 +142,14 @@ TEST_F(SoundOnDisk, EveryRecordingIsHeardInItsLength) {
         sounds.PlayWave(wave);
         EXPECT_TRUE(QTest::qWaitFor([this, due = length] { return Samples(output_).size() > due; }, 10000));
         const std::vector<int> heard = Samples(output_);
+<<<<<<< HEAD
         EXPECT_TRUE(Loudest(heard) > 16000 && Loudest(heard) < 32000) << Loudest(heard);
         EXPECT_NEAR(Length(heard), double(length), 10);
+=======
+        EXPECT_TRUE(Loudest(heard) > 16000 && Loudest(heard) < 32767) << Loudest(heard);
+        const auto last = std::find_if(heard.rbegin(), heard.rend(), [](int x) { return x != 0; });
+        EXPECT_NEAR(double(heard.rend() - last), double(length), 10);
+>>>>>>> scripts
         QFile::remove(output_);
     }
 }
