@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -11,15 +10,10 @@
 
 namespace vorlund {
 
-/// What a bomb has killed.
-struct BombLosses {
-    std::int16_t Troops = 0;
-    std::int16_t Tanks = 0;
-};
-
 /// Drops the current player's bomb on territory index `target`, which another player holds: half of its
-/// troops and a quarter of its tanks, both rounded down, come off the territory and its owner's totals.
-BombLosses DropBomb(GameState& game, int target);
+/// troops and a quarter of its tanks, both rounded down, come off the territory and its owner's total.
+/// They are the result.
+Units DropBomb(GameState& game, int target);
 
 /// "You have a nuclear bomb to use." or that there is none, for the current player.
 std::string BombText(const GameState& game);

@@ -3,19 +3,10 @@
 #include <string>
 #include <variant>
 
-#include "actions/outcome.h"
+#include "actions/order.h"
 #include "state/game_state.h"
 
 namespace vorlund {
-
-/// The entries of the transport dialog, as typed. The territories are numbers 1 to 42; an empty quantity
-/// counts as 0.
-struct TransportEntries {
-    std::string Source;
-    std::string Destination;
-    std::string Troops;
-    std::string Tanks;
-};
 
 /// A move was carried out.
 struct Moved {
@@ -34,6 +25,6 @@ std::string MovesLeftText(const GameState& game);
 /// a move, claims the destination, and gives up a source left without units. Troops are cut down to a whole
 /// number, after the check that there is anything to move; tanks are rounded at once, halves to the even
 /// neighbour. `moveEnabled` says whether the dialog's Move command can be used; without it there is a beep.
-std::variant<Beep, Refusal, Moved> Tran(GameState& game, bool moveEnabled, const TransportEntries& entries);
+std::variant<Beep, Refusal, Moved> Tran(GameState& game, bool moveEnabled, const OrderEntries& entries);
 
 }  // namespace vorlund

@@ -40,7 +40,7 @@ Census TakeCensus(const GameState& game) {
             continue;
         }
         ++census.Territories;
-        const int strength = 3 * game.TerritoryAt(t).Tanks + game.TerritoryAt(t).Troops;
+        const int strength = 3 * game.TerritoryAt(t).Stationed.Tanks + game.TerritoryAt(t).Stationed.Troops;
         if (strength >= bestStrength) {
             bestStrength = strength;
             census.Strongest = t;

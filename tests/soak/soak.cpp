@@ -76,8 +76,8 @@ private:
         const Route route = RandomRoute(Game, mind_);
         const auto upTo = [this](int limit) { return QuantityEntry(limit, mind_); };
         const int money = Game.Current().Money;
-        const std::string troops = upTo(*dialog_ == Command::Buy ? money / 20 : route.Troops);
-        const std::string tanks = upTo(*dialog_ == Command::Buy ? money / 80 : route.Tanks);
+        const std::string troops = upTo(*dialog_ == Command::Buy ? money / 20 : route.Force.Troops);
+        const std::string tanks = upTo(*dialog_ == Command::Buy ? money / 80 : route.Force.Tanks);
         if (*dialog_ == Command::Buy) {
             Settle(Buy(Game, {route.From, troops, tanks, upTo(money)}));
         } else if (*dialog_ == Command::Sell) {

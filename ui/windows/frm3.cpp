@@ -132,7 +132,8 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
         marker.imgExtra->move(x, y);
     }
     marker.lblCntry->move(x - 28, y + 12);
-    marker.lblCntry->Show(std::to_string(territory.Troops) + "/" + std::to_string(territory.Tanks));
+    marker.lblCntry->Show(std::to_string(territory.Stationed.Troops) + "/" +
+                          std::to_string(territory.Stationed.Tanks));
     marker.lblCntry->setAccessibleName(ShortDescription(game_, t));
 }
 

@@ -60,7 +60,7 @@ void frmAttack::AddStrikeHalf() {
 }
 
 void frmAttack::Attack() {
-    const AttackEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+    const OrderEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
     const auto outcome = Attck(game_, random_, lblAttack_->isEnabled(), entries);
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Gun);

@@ -34,7 +34,7 @@ frmTransport::frmTransport(DialogHost& host, GameState& game)
 }
 
 void frmTransport::Move() {
-    const TransportEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+    const OrderEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
     std::visit([this](const auto& outcome) { Settle(outcome); }, Tran(game_, lblGo_->isEnabled(), entries));
 }
 
