@@ -95,19 +95,18 @@ bool Fight(GameState& game, Random& random, Battle& battle) {
     return !battle.Attacker.Force.IsEmpty();
 }
 
-bool CanAttack(const GameState& game) {
+WhyNot WhyNoAttack(const GameState& game) {
     const std::int16_t left = game.Current().AttacksLeft;
-    return left == 1 || left == 2;
+    return left == 1 || left == 2 ? std::nullopt : WhyNot("You have no attack left this turn.");
 }
 
 std::string AttacksLeftText(const GameState& game) {
-    const int left = CanAttack(game) ? game.Current().AttacksLeft : 0;
+    const int left = WhyNoAttack(game) ? 0 : game.Current().AttacksLeft;
     return "You have " + std::to_string(left) + (left == 1 ? " attack" : " attacks") + " left this turn.";
 }
 
-std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, bool attackEnabled,
-                                          const OrderEntries& entries) {
-    if (!attackEnabled) {
+std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, const OrderEntries& entries) {
+    if (WhyNoAttack(game)) {
         return Beep{};
     }
     random.Reseed();

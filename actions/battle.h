@@ -6,6 +6,7 @@
 #include "actions/order.h"
 #include "state/game_state.h"
 #include "state/random.h"
+#include "turn/commands.h"
 #include "turn/report.h"
 
 namespace vorlund {
@@ -45,16 +46,15 @@ void BattleRound(Random& random, Battle& battle);
 /// territory does not change hands here.
 bool Fight(GameState& game, Random& random, Battle& battle);
 
-/// True when the current player has attacks left, so that the attack command is enabled.
-bool CanAttack(const GameState& game);
+/// Why the attack command is not enabled for the current player: no attack is left.
+WhyNot WhyNoAttack(const GameState& game);
 
 /// "You have 2 attacks left this turn." for the current player.
 std::string AttacksLeftText(const GameState& game);
 
 /// The current player's attack, fought to its end: the survivors take the target over or the force is lost,
-/// and an attacking territory left empty is given up. A beep when the command is not enabled, a refusal for
+/// and an attacking territory left empty is given up. A beep when there is WhyNoAttack, a refusal for
 /// entries that make no legal attack, otherwise the report of the battle. Reseeds `random` unless it beeps.
-std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, bool attackEnabled,
-                                          const OrderEntries& entries);
+std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, const OrderEntries& entries);
 
 }  // namespace vorlund

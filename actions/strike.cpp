@@ -20,8 +20,12 @@ std::string BombText(const GameState& game) {
     return game.Current().HasNuke ? "You have a nuclear bomb to use." : "You do not have a nuclear bomb.";
 }
 
-std::variant<Beep, Refusal, Report> Strike(GameState& game, bool strikeEnabled, std::string_view target) {
-    if (!strikeEnabled) {
+WhyNot WhyNoStrike(const GameState& game) {
+    return game.Current().HasNuke ? std::nullopt : WhyNot("You have no nuclear bomb.");
+}
+
+std::variant<Beep, Refusal, Report> Strike(GameState& game, std::string_view target) {
+    if (WhyNoStrike(game)) {
         return Beep{};
     }
     if (target.empty()) {

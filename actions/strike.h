@@ -6,6 +6,7 @@
 
 #include "actions/outcome.h"
 #include "state/game_state.h"
+#include "turn/commands.h"
 #include "turn/report.h"
 
 namespace vorlund {
@@ -18,9 +19,12 @@ Units DropBomb(GameState& game, int target);
 /// "You have a nuclear bomb to use." or that there is none, for the current player.
 std::string BombText(const GameState& game);
 
-/// The current player's strike upon the territory whose number is typed in `target`. The command is enabled
-/// while the player holds a bomb. A beep when it is not, a refusal for an entry that names no territory of
-/// another player, otherwise the report of the losses.
-std::variant<Beep, Refusal, Report> Strike(GameState& game, bool strikeEnabled, std::string_view target);
+/// Why the strike command is not enabled for the current player, who holds no bomb.
+WhyNot WhyNoStrike(const GameState& game);
+
+/// The current player's strike upon the territory whose number is typed in `target`. A beep when there is
+/// WhyNoStrike, a refusal for an entry that names no territory of another player, otherwise the report of the
+/// losses.
+std::variant<Beep, Refusal, Report> Strike(GameState& game, std::string_view target);
 
 }  // namespace vorlund

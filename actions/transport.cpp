@@ -16,17 +16,18 @@ constexpr OrderTerms Moving{
 
 }  // namespace
 
-bool CanMove(const GameState& game) {
-    return game.Current().MovesLeft == 1 || game.Current().MovesLeft == 2;
+WhyNot WhyNoMove(const GameState& game) {
+    const std::int16_t left = game.Current().MovesLeft;
+    return left == 1 || left == 2 ? std::nullopt : WhyNot("You have no move left this turn.");
 }
 
 std::string MovesLeftText(const GameState& game) {
-    const int moves = CanMove(game) ? game.Current().MovesLeft : 0;
-    return "You have " + std::to_string(moves) + (moves == 1 ? " move" : " moves") + " left this turn.";
+    const int left = WhyNoMove(game) ? 0 : game.Current().MovesLeft;
+    return "You have " + std::to_string(left) + (left == 1 ? " move" : " moves") + " left this turn.";
 }
 
-std::variant<Beep, Refusal, Moved> Tran(GameState& game, bool moveEnabled, const OrderEntries& entries) {
-    if (!moveEnabled) {
+std::variant<Beep, Refusal, Moved> Tran(GameState& game, const OrderEntries& entries) {
+    if (WhyNoMove(game)) {
         return Beep{};
     }
     const auto read = ReadOrder(game, Moving, entries);

@@ -83,11 +83,11 @@ private:
         } else if (*dialog_ == Command::Sell) {
             Settle(Sell(Game, {route.From, troops, tanks, upTo(Game.Current().Oil)}));
         } else if (*dialog_ == Command::Transport) {
-            Settle(Tran(Game, CanMove(Game), {route.From, route.To, troops, tanks}));
+            Settle(Tran(Game, {route.From, route.To, troops, tanks}));
         } else if (*dialog_ == Command::Attack && OneIn(4, mind_)) {
-            Settle(Strike(Game, Game.Current().HasNuke, route.To));
+            Settle(Strike(Game, route.To));
         } else if (*dialog_ == Command::Attack) {
-            Settle(Attck(Game, Chance, CanAttack(Game), {route.From, route.To, troops, tanks}));
+            Settle(Attck(Game, Chance, {route.From, route.To, troops, tanks}));
         } else if (*dialog_ == Command::Upgrade && OneIn(2, mind_)) {
             Settle((OneIn(2, mind_) ? Fact : Def)(Game, route.From));
         } else if (*dialog_ == Command::Upgrade) {

@@ -141,10 +141,9 @@ void frm3::SetCommands(CommandSet available) {
     // The keyboard goes back to the board itself: an Enter too many after a report must not run a command.
     setFocus();
     for (const Command command : AllCommands) {
-        const std::string whyNot = WhyUnavailable(game_, command);
+        const WhyNot whyNot = WhyUnavailable(game_, command);
         commands_[static_cast<std::size_t>(command)]->SetAvailable(
-            available.Has(command),
-            whyNot.empty() ? QStringLiteral("Another window wants to be closed first.") : Displayed(whyNot));
+            available.Has(command), Displayed(whyNot.value_or("Another window wants to be closed first.")));
     }
 }
 
