@@ -58,6 +58,7 @@ std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntri
         Abandon(game, territory);
         if (CheckDead(game, game.CurrentPlayer)) {
             if (game.DeadPlayers == game.NumPlayers) {
+                game.GameOver = true;
                 return NoSurvivor{};
             }
             report.Body += KilledYourselfText;

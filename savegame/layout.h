@@ -64,7 +64,7 @@ bool VisitTerritory(TerritoryType& territory, const std::string& whose, Visitor&
 /// Shows every value of `game` to `visitor`, in file order. False when the visitor ended the visit.
 template <typename Game, typename Visitor>
 bool VisitGame(Game& game, Visitor& visitor) {
-    if (!visitor.Integer(game.NumPlayers, "NumPlayers", "the game", 2, MaxPlayers)) {
+    if (!visitor.Integer(game.NumPlayers, "NumPlayers", "the game", MinPlayers, MaxPlayers)) {
         return false;
     }
     for (int p = 0; p < game.NumPlayers; ++p) {

@@ -10,6 +10,7 @@
 namespace vorlund {
 
 inline constexpr int NumTerritories = 42;
+inline constexpr int MinPlayers = 2;
 inline constexpr int MaxPlayers = 5;
 inline constexpr int NeighbourSlots = 6;
 inline constexpr std::int16_t NoOwner = 9;       ///< in Territory::Owner: nobody owns it

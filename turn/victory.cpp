@@ -33,9 +33,8 @@ void DeclareWinner(GameState& game, Screens& screens, int player, const Report* 
                      (computerReport != nullptr ? ", wins the game!" : ", you win the game!"));
 }
 
-void NobodyWins(GameState& game, Screens& screens) {
+void NobodyWins(Screens& screens) {
     screens.RefreshMap();
-    game.GameOver = true;
     screens.SetCommands(CommandSet::None());
     screens.Announce("All players are dead, no one wins...");
     screens.CloseDialogs();

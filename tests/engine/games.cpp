@@ -58,7 +58,7 @@ GameState RandomNewGame(Random& hands, Random& chance) {
     do {
         names.resize(static_cast<std::size_t>(2 + hands.Draw(4)));
         std::generate(names.begin(), names.end(), [&] { return NameEntry(hands); });
-        game.NumPlayers = static_cast<std::int16_t>(names.size());
+        SetNumPlayers(game, static_cast<int>(names.size()));
     } while (EnterNames(game, names));
     Selection selection(game, chance);
     selection.Open();

@@ -20,7 +20,7 @@ TEST(Locale, OfTheEnvironmentIsThere) {
 /// Enters the names: the refusal with its beeps, or nothing.
 std::string Enter(GameState& game, const std::vector<std::string>& typed) {
     game = FreshGame();
-    game.NumPlayers = static_cast<std::int16_t>(typed.size());
+    SetNumPlayers(game, static_cast<int>(typed.size()));
     game.GameLoaded = true;
     const auto refusal = EnterNames(game, typed);
     return refusal ? refusal->Prompt + " " + std::to_string(refusal->Beeps) : "";

@@ -106,7 +106,7 @@ private:
             CloseDialog();
         }
         if (ordered_ && Game.DeadPlayers == Game.NumPlayers) {
-            NobodyWins(Game, Seen);
+            NobodyWins(Seen);
         }
     }
 

@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <string>
 
+#include "turn/turn_cycle.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/game_navigation.h"
 #include "ui/windows/territory_text.h"
@@ -97,7 +98,7 @@ void frm3::AddCommandBar() {
 
 void frm3::Open() {
     if (game_.GameLoaded) {
-        setWindowTitle(Displayed("Vorlund - " + game_.Current().Name + "'s turn"));
+        setWindowTitle(Displayed(TurnTitle(game_)));
         RefreshMap();
         SetCommands(AvailableCommands(game_));
     } else {
