@@ -15,18 +15,17 @@ constexpr double DollarsPerBarrel = 0.3334;
 
 // The price of a whole order; nothing when it does not fit 16 bits.
 std::optional<std::int16_t> PriceOf(const TradeOrder& order) {
-    return CutToInt16(1.0 * TroopPrice * order.Troops + 1.0 * TankPrice * order.Tanks +
+    return CutToInt16(1.0 * TroopPrice * order.Force.Troops + 1.0 * TankPrice * order.Force.Tanks +
                       std::floor(order.Oil * DollarsPerBarrel));
 }
 
-// Where units of this kind would go, or why they cannot.
-std::variant<Refusal, int> Placement(const GameState& game, const UnitKind& kind,
+// Where the units would go, or why they cannot.
+std::variant<Refusal, int> Placement(const GameState& game, const TypedForce& force,
                                      const TradeEntries& entries) {
-    auto choice = UnitTerritory(Buying, kind, entries);
+    auto choice = UnitTerritory(Buying, KindOf(force), entries);
     if (const int* t = std::get_if<int>(&choice);
         t != nullptr && !(Owns(game, game.CurrentPlayer, *t) && game.TerritoryAt(*t).HasFactory)) {
-        return Refusal{std::string("To buy ") + kind.Name +
-                       " the territory must have a factory and be owned by you."};
+        return Refusal{"To buy " + KindOf(force) + " the territory must have a factory and be owned by you."};
     }
     return choice;
 }
@@ -44,14 +43,12 @@ std::variant<Refusal, Report> Buy(GameState& game, const TradeEntries& entries) 
     }
     // The place is checked for what was typed: half a troop needs a factory as well.
     int territory = 0;
-    for (const UnitKind& kind : UnitKinds) {
-        if (*quantities.*kind.Entered != 0) {
-            const auto placement = Placement(game, kind, entries);
-            if (const auto* refusal = std::get_if<Refusal>(&placement)) {
-                return *refusal;
-            }
-            territory = std::get<int>(placement);
+    if (!quantities->Force.IsZero()) {
+        const auto placement = Placement(game, quantities->Force, entries);
+        if (const auto* refusal = std::get_if<Refusal>(&placement)) {
+            return *refusal;
         }
+        territory = std::get<int>(placement);
     }
     const auto order = CutAndCorrect(*quantities);
     if (!order || order->IsEmpty()) {

@@ -9,25 +9,23 @@ namespace {
 
 constexpr TradeTerms Selling{"sell", "sold", -1, TroopSalePrice, TankSalePrice};
 
-// Where units of this kind would come from, or why they cannot.
-std::variant<Refusal, int> SourceOf(const GameState& game, const UnitKind& kind, const TradeEntries& entries,
-                                    int amount) {
-    auto choice = UnitTerritory(Selling, kind, entries);
+// Where the units would come from, or why they cannot.
+std::variant<Refusal, int> SourceOf(const GameState& game, const Units& force, const TradeEntries& entries) {
+    auto choice = UnitTerritory(Selling, KindOf(force), entries);
     const int* t = std::get_if<int>(&choice);
     if (t == nullptr) {
         return choice;
     }
     if (!Owns(game, game.CurrentPlayer, *t)) {
-        return Refusal{std::string("To sell ") + kind.Name + " the territory must be owned by you."};
+        return Refusal{"To sell " + KindOf(force) + " the territory must be owned by you."};
     }
-    if (amount > game.TerritoryAt(*t).*kind.Stationed) {
-        return Refusal{std::string("You cannot sell more ") + kind.Name + " than you have in a territory."};
+    const Units& stationed = game.TerritoryAt(*t).Stationed;
+    if (force.Troops > stationed.Troops || force.Tanks > stationed.Tanks) {
+        return Refusal{std::string("You cannot sell more ") +
+                       (force.Troops > stationed.Troops ? "Troops" : "Tanks") +
+                       " than you have in a territory."};
     }
-    return *t;
-}
-
-bool IsEmpty(const Territory& territory) {
-    return territory.Troops == 0 && territory.Tanks == 0;
+    return choice;
 }
 
 }  // namespace
@@ -39,17 +37,13 @@ std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntri
         return Refusal{NoTransactionText};
     }
     int territory = 0;
-    bool sellsUnits = false;
-    for (const UnitKind& kind : UnitKinds) {
-        const int amount = *order.*kind.Ordered;
-        if (amount != 0) {
-            const auto source = SourceOf(game, kind, entries, amount);
-            if (const auto* refusal = std::get_if<Refusal>(&source)) {
-                return *refusal;
-            }
-            territory = std::get<int>(source);
-            sellsUnits = true;
+    const bool sellsUnits = !order->Force.IsEmpty();
+    if (sellsUnits) {
+        const auto source = SourceOf(game, order->Force, entries);
+        if (const auto* refusal = std::get_if<Refusal>(&source)) {
+            return *refusal;
         }
+        territory = std::get<int>(source);
     }
     if (order->Oil != 0 && order->Oil > game.Current().Oil) {
         return Refusal{"You cannot sell more oil barrels than you have."};
@@ -60,10 +54,11 @@ std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntri
     }
     Report report{"Vorlund - Sell", TransactionHeadline,
                   booking->Lines + "        Total money gained: $" + std::to_string(booking->Total) + "\r\r"};
-    if (sellsUnits && IsEmpty(game.TerritoryAt(territory))) {
+    if (sellsUnits && game.TerritoryAt(territory).Stationed.IsEmpty()) {
         Abandon(game, territory);
         if (CheckDead(game, game.CurrentPlayer)) {
             if (game.DeadPlayers == game.NumPlayers) {
+                game.GameOver = true;
                 return NoSurvivor{};
             }
             report.Body += KilledYourselfText;

@@ -16,7 +16,7 @@ std::string UpkeepEstimate(const GameState& game) {
         }
     }
     income = static_cast<int>(std::floor(income * (1 + 0.1 * player.EconomyLevel)));
-    const int net = income - ClampInt16(2 * player.Troops + player.Factories);
+    const int net = income - ClampInt16(2 * player.Total.Troops + player.Factories);
     return net > 0 ? "+ $" + std::to_string(net) : "- $" + std::to_string(-net);
 }
 
@@ -29,8 +29,8 @@ StatusLines DescribeStatus(const GameState& game) {
     lines.Name = player.Name;
     lines.Money = "$" + std::to_string(player.Money);
     lines.Oil = std::to_string(player.Oil);
-    lines.Troops = std::to_string(player.Troops);
-    lines.Tanks = std::to_string(player.Tanks);
+    lines.Troops = std::to_string(player.Total.Troops);
+    lines.Tanks = std::to_string(player.Total.Tanks);
     lines.Factories = std::to_string(player.Factories);
     lines.Debt = std::to_string(player.DebtTurns);
     lines.Economy = std::to_string(player.EconomyLevel);

@@ -1,19 +1,17 @@
 #include "actions/strike.h"
 
-#include "state/int16.h"
+#include "actions/force.h"
+#include "state/player_words.h"
 #include "state/typed_number.h"
 
 namespace vorlund {
 
-BombLosses DropBomb(GameState& game, int target) {
+Units DropBomb(GameState& game, int target) {
     Territory& territory = game.TerritoryAt(target);
-    Player& owner = game.PlayerAt(territory.Owner);
-    const BombLosses losses{static_cast<std::int16_t>(territory.Troops / 2),
-                            static_cast<std::int16_t>(territory.Tanks / 4)};
-    Add(territory.Troops, -losses.Troops);
-    Add(territory.Tanks, -losses.Tanks);
-    Add(owner.Troops, -losses.Troops);
-    Add(owner.Tanks, -losses.Tanks);
+    const Units losses{static_cast<std::int16_t>(territory.Stationed.Troops / 2),
+                       static_cast<std::int16_t>(territory.Stationed.Tanks / 4)};
+    Add(territory.Stationed, -losses);
+    Add(game.PlayerAt(territory.Owner).Total, -losses);
     game.Current().HasNuke = false;
     return losses;
 }
@@ -22,8 +20,12 @@ std::string BombText(const GameState& game) {
     return game.Current().HasNuke ? "You have a nuclear bomb to use." : "You do not have a nuclear bomb.";
 }
 
-std::variant<Beep, Refusal, Report> Strike(GameState& game, bool strikeEnabled, std::string_view target) {
-    if (!strikeEnabled) {
+WhyNot WhyNoStrike(const GameState& game) {
+    return game.Current().HasNuke ? std::nullopt : WhyNot("You have no nuclear bomb.");
+}
+
+std::variant<Beep, Refusal, Report> Strike(GameState& game, std::string_view target) {
+    if (WhyNoStrike(game)) {
         return Beep{};
     }
     if (target.empty()) {
@@ -40,15 +42,10 @@ std::variant<Beep, Refusal, Report> Strike(GameState& game, bool strikeEnabled, 
     if (Owns(game, game.CurrentPlayer, *t)) {
         return Refusal{"You may not nuke your own territory."};
     }
-    const BombLosses losses = DropBomb(game, *t);
-    const int owner = territory.Owner;
-    Report report;
-    report.Title = "Vorlund - Nuclear Strike Results";
-    report.Headline = "Your nuclear attack upon " + std::string(territory.Name) + " was successful.";
-    report.Body = "Casualties for Player " + std::to_string(owner + 1) + ", " + game.PlayerAt(owner).Name +
-                  ":\r        Troops: " + std::to_string(losses.Troops) +
-                  "\r        Tanks: " + std::to_string(losses.Tanks) + "\r\r";
-    return report;
+    const Units losses = DropBomb(game, *t);
+    return Report{"Vorlund - Nuclear Strike Results",
+                  "Your nuclear attack upon " + std::string(territory.Name) + " was successful.",
+                  Casualties(PlayerAndName(game, territory.Owner), losses)};
 }
 
 }  // namespace vorlund

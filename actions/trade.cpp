@@ -1,90 +1,75 @@
 #include "actions/trade.h"
 
+#include <algorithm>
+
 #include "state/int16.h"
 #include "state/prices.h"
 #include "state/typed_number.h"
 
 namespace vorlund {
-namespace {
-
-// Moves an amount into or out of a field; false when it does not fit there any more.
-bool Change(std::int16_t& field, int amount) {
-    const int changed = field + amount;
-    field = ClampInt16(changed);
-    return FitsInt16(changed);
-}
-
-}  // namespace
 
 std::optional<TradeQuantities> ReadQuantities(const TradeEntries& entries) {
-    const auto troops = ReadQuantity(entries.Troops);
-    const auto tanks = ReadQuantity(entries.Tanks);
+    const auto force = ReadForce(entries.Troops, entries.Tanks);
     const auto oil = ReadQuantity(entries.Oil);
-    if (!troops || !tanks || !oil) {
-        return std::nullopt;
-    }
-    return TradeQuantities{*troops, *tanks, *oil};
+    return force && oil ? std::optional(TradeQuantities{*force, *oil}) : std::nullopt;
 }
 
 std::optional<TradeOrder> CutAndCorrect(const TradeQuantities& quantities) {
-    const auto troops = CutToInt16(quantities.Troops);
-    const auto tanks = CutToInt16(quantities.Tanks);
+    const auto force = CutDown(quantities.Force);
     const auto oil = CutToInt16(quantities.Oil);
-    if (!troops || !tanks || !oil) {
+    if (!force || !oil) {
         return std::nullopt;
     }
-    const auto atLeast = [](std::int16_t least, std::int16_t value) {
-        return value < least ? std::int16_t{0} : value;
-    };
-    return TradeOrder{atLeast(0, *troops), atLeast(0, *tanks), atLeast(BarrelsPerDollar, *oil)};
+    const auto notNegative = [](std::int16_t count) { return std::max(count, std::int16_t{0}); };
+    return TradeOrder{{notNegative(force->Troops), notNegative(force->Tanks)},
+                      *oil < BarrelsPerDollar ? std::int16_t{0} : *oil};
 }
 
-std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const UnitKind& kind,
+std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const std::string& kind,
                                          const TradeEntries& entries) {
     if (!ReadQuantity(entries.Territory)) {
         return Refusal{NoTransactionText};
     }
     const auto t = ReadTerritory(entries.Territory, TerritoryRounding::IndexInRange);
     if (!t) {
-        return Refusal{std::string("To ") + terms.Verb + " " + kind.Name +
+        return Refusal{std::string("To ") + terms.Verb + " " + kind +
                        " you need a valid territory number (1-42).\rNo transaction was made."};
     }
     return *t;
 }
 
 std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const TradeOrder& order, int t) {
-    Player player = game.Current();
-    Territory territory = game.TerritoryAt(t);
+    Player& player = game.Current();
+    Territory& territory = game.TerritoryAt(t);
     TradeBooking booking;
-    bool fits = true;
-    const std::string begin = std::string("You ") + terms.PastVerb + " ";
-    const auto pay = [&](int dollars) {
-        booking.Total += dollars;
-        fits = Change(player.Money, -terms.Direction * dollars) && fits;
-        return " for $" + std::to_string(dollars);
-    };
-    for (const UnitKind& kind : UnitKinds) {
-        const int amount = order.*kind.Ordered;
-        if (amount == 0) {
-            continue;
+    const auto enter = [&](int amount, const char* goods, int dollars, const std::string& where) {
+        if (amount != 0) {
+            booking.Total += dollars;
+            booking.Lines += std::string("You ") + terms.PastVerb + " " + std::to_string(amount) + " " +
+                             goods + " for $" + std::to_string(dollars) + where + ".\r";
         }
-        fits = Change(player.*kind.Total, terms.Direction * amount) && fits;
-        fits = Change(territory.*kind.Stationed, terms.Direction * amount) && fits;
-        booking.Lines += begin + std::to_string(amount) + " " + kind.Name;
-        booking.Lines += pay(terms.*kind.Price * amount) + " in ";
-        booking.Lines += std::string(territory.Name) + ".\r";
-    }
-    if (order.Oil != 0) {
-        const int lots = order.Oil / BarrelsPerDollar;
-        fits = Change(player.Oil, terms.Direction * lots * BarrelsPerDollar) && fits;
-        booking.Lines +=
-            begin + std::to_string(lots * BarrelsPerDollar) + " oil barrels" + pay(lots) + ".\r\r";
-    }
-    if (!fits) {
+    };
+    const std::string place = " in " + std::string(territory.Name);
+    const int lots = order.Oil / BarrelsPerDollar;
+    const int barrels = lots * BarrelsPerDollar;
+    enter(order.Force.Troops, "Troops", terms.TroopPrice * order.Force.Troops, place);
+    enter(order.Force.Tanks, "Tanks", terms.TankPrice * order.Force.Tanks, place);
+    enter(barrels, "oil barrels", lots, "");
+    booking.Lines += barrels != 0 ? "\r" : "";
+
+    const bool buys = terms.Direction > 0;
+    const Units force = buys ? order.Force : -order.Force;
+    const auto total = Sum(player.Total, force);
+    const auto stationed = Sum(territory.Stationed, force);
+    const int money = player.Money - terms.Direction * booking.Total;
+    const int oil = player.Oil + terms.Direction * barrels;
+    if (!total || !stationed || !FitsInt16(money) || !FitsInt16(oil)) {
         return std::nullopt;
     }
-    game.Current() = player;
-    game.TerritoryAt(t) = territory;
+    player.Total = *total;
+    territory.Stationed = *stationed;
+    player.Money = static_cast<std::int16_t>(money);
+    player.Oil = static_cast<std::int16_t>(oil);
     return booking;
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
 
+#include "actions/force.h"
 #include "actions/outcome.h"
 #include "state/game_state.h"
 
@@ -38,36 +38,17 @@ struct TradeTerms {
 
 /// Quantities read from entries, fractions and signs included.
 struct TradeQuantities {
-    double Troops = 0;
-    double Tanks = 0;
+    TypedForce Force;
     double Oil = 0;
 };
 
 /// Quantities to be traded, none of them negative.
 struct TradeOrder {
-    std::int16_t Troops = 0;
-    std::int16_t Tanks = 0;
+    Units Force;
     std::int16_t Oil = 0;
 
-    bool IsEmpty() const { return Troops == 0 && Tanks == 0 && Oil == 0; }
+    bool IsEmpty() const { return Force.IsEmpty() && Oil == 0; }
 };
-
-/// One of the two kinds of units: its name in texts, and its place in each record.
-struct UnitKind {
-    const char* Name;
-    double TradeQuantities::*Entered;
-    std::int16_t TradeOrder::*Ordered;
-    std::int16_t Territory::*Stationed;
-    std::int16_t Player::*Total;
-    int TradeTerms::*Price;
-};
-
-inline constexpr std::array<UnitKind, 2> UnitKinds{{
-    {"Troops", &TradeQuantities::Troops, &TradeOrder::Troops, &Territory::Troops, &Player::Troops,
-     &TradeTerms::TroopPrice},
-    {"Tanks", &TradeQuantities::Tanks, &TradeOrder::Tanks, &Territory::Tanks, &Player::Tanks,
-     &TradeTerms::TankPrice},
-}};
 
 /// A trade that has been carried out: its lines in the report, and the dollars that changed hands.
 struct TradeBooking {
@@ -82,8 +63,14 @@ std::optional<TradeQuantities> ReadQuantities(const TradeEntries& entries);
 /// nothing when one does not fit 16 bits.
 std::optional<TradeOrder> CutAndCorrect(const TradeQuantities& quantities);
 
-/// The index of the territory in which units are traded, or why there is none.
-std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const UnitKind& kind,
+/// What texts call the units of a trade whose territory is looked at: troops, if any are traded.
+template <typename Force>
+std::string KindOf(const Force& force) {
+    return force.Troops != 0 ? "Troops" : "Tanks";
+}
+
+/// The index of the territory in which units are traded, which texts call `kind`, or why there is none.
+std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const std::string& kind,
                                          const TradeEntries& entries);
 
 /// Carries out the whole order for the current player, with the units in territory index `territory` (any one

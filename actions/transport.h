@@ -3,19 +3,11 @@
 #include <string>
 #include <variant>
 
-#include "actions/outcome.h"
+#include "actions/order.h"
 #include "state/game_state.h"
+#include "turn/commands.h"
 
 namespace vorlund {
-
-/// The entries of the transport dialog, as typed. The territories are numbers 1 to 42; an empty quantity
-/// counts as 0.
-struct TransportEntries {
-    std::string Source;
-    std::string Destination;
-    std::string Troops;
-    std::string Tanks;
-};
 
 /// A move was carried out.
 struct Moved {
@@ -24,8 +16,8 @@ struct Moved {
     bool operator==(const Moved&) const = default;
 };
 
-/// True when the current player has a move left this turn: one or two.
-bool CanMove(const GameState& game);
+/// Why the dialog's Move command is not enabled for the current player: no move is left.
+WhyNot WhyNoMove(const GameState& game);
 
 /// The moves that the current player has left: "You have 2 moves left this turn.".
 std::string MovesLeftText(const GameState& game);
@@ -33,7 +25,7 @@ std::string MovesLeftText(const GameState& game);
 /// Moves units of the current player into an own or unoccupied neighbour of an own territory, which uses up
 /// a move, claims the destination, and gives up a source left without units. Troops are cut down to a whole
 /// number, after the check that there is anything to move; tanks are rounded at once, halves to the even
-/// neighbour. `moveEnabled` says whether the dialog's Move command can be used; without it there is a beep.
-std::variant<Beep, Refusal, Moved> Tran(GameState& game, bool moveEnabled, const TransportEntries& entries);
+/// neighbour. A beep when there is WhyNoMove.
+std::variant<Beep, Refusal, Moved> Tran(GameState& game, const OrderEntries& entries);
 
 }  // namespace vorlund

@@ -73,13 +73,18 @@ std::variant<Refusal, Purchase> Build(GameState& game, const BuildingTerms& term
 
 }  // namespace
 
-TrackStatus StatusOf(const GameState& game, Track track) {
+std::string StatusOf(const GameState& game, Track track) {
     const TrackTerms terms = TermsOf(track);
     const int level = game.Current().*terms.Level;
     const auto price = NextPrice(terms, level);
-    return {std::string("Current ") + terms.Name + " upgrade: " + std::to_string(level) +
-                "\rNext upgrade cost: $" + (price ? std::to_string(*price) : "max"),
-            price.has_value()};
+    return std::string("Current ") + terms.Name + " upgrade: " + std::to_string(level) +
+           "\rNext upgrade cost: $" + (price ? std::to_string(*price) : "max");
+}
+
+WhyNot WhyNoUpgrade(const GameState& game, Track track) {
+    const TrackTerms terms = TermsOf(track);
+    return NextPrice(terms, game.Current().*terms.Level) ? std::nullopt
+                                                         : WhyNot("This upgrade is at its highest level.");
 }
 
 std::variant<Nothing, Refusal, Purchase> RaiseLevel(GameState& game, Track track) {

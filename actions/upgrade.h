@@ -6,6 +6,7 @@
 
 #include "actions/outcome.h"
 #include "state/game_state.h"
+#include "turn/commands.h"
 
 namespace vorlund {
 
@@ -20,15 +21,12 @@ struct Purchase {
     bool operator==(const Purchase&) const = default;
 };
 
-/// Where the current player stands on a track.
-struct TrackStatus {
-    std::string Text;  ///< two lines: the level, and the price of the next one or "max"
-    bool CanRise = false;
+/// Where the current player stands on a track, in two lines: the level, and the price of the next one or
+/// "max".
+std::string StatusOf(const GameState& game, Track track);
 
-    bool operator==(const TrackStatus&) const = default;
-};
-
-TrackStatus StatusOf(const GameState& game, Track track);
+/// Why the track's upgrade command is not enabled for the current player: there is no higher level.
+WhyNot WhyNoUpgrade(const GameState& game, Track track);
 
 /// Raises the current player by a level for that level's price; refused when the money is short, nothing at
 /// level 3.

@@ -6,6 +6,7 @@
 #include "actions/strike.h"
 #include "computer/borders.h"
 #include "state/ownership.h"
+#include "state/player_words.h"
 #include "turn/victory.h"
 
 namespace vorlund {
@@ -16,7 +17,7 @@ struct Pair {
     int To;
 };
 
-bool StrongEnough(const Territory& from, const Territory& to) {
+bool StrongEnough(const Units& from, const Units& to) {
     return from.Troops > TroopsThatNeverAttack &&
            2 * from.Tanks + from.Troops > 3 * to.Tanks + to.Troops + AttackMargin;
 }
@@ -28,7 +29,8 @@ std::optional<Pair> ChooseAttack(const GameState& game) {
         }
         const Territory& from = game.TerritoryAt(t);
         for (const std::int16_t neighbour : from.Neighbours) {
-            if (IsEnemy(game, neighbour) && StrongEnough(from, game.TerritoryAt(neighbour))) {
+            if (IsEnemy(game, neighbour) &&
+                StrongEnough(from.Stationed, game.TerritoryAt(neighbour).Stationed)) {
                 return Pair{t, neighbour};
             }
         }
@@ -37,32 +39,30 @@ std::optional<Pair> ChooseAttack(const GameState& game) {
 }
 
 std::string BattleLines(const GameState& game, const Battle& battle, bool won) {
-    const auto losses = [](int troops, int tanks) {
-        return std::to_string(troops) + "/" + std::to_string(tanks);
+    const auto losses = [](const Units& lost) {
+        return std::to_string(lost.Troops) + "/" + std::to_string(lost.Tanks) + " troops/tanks";
     };
     return "\rAttack on " + std::string(game.TerritoryAt(battle.Target).Name) + ", " +
-           game.PlayerAt(battle.Defender).Name + (won ? ", was successful." : ", was held off.") + "\r" +
-           game.Current().Name + " lost " + losses(battle.AttackerTroopLosses, battle.AttackerTankLosses) +
-           " troops/tanks, and defender lost " +
-           losses(battle.DefenderTroopLosses, battle.DefenderTankLosses) + " troops/tanks.\r";
+           game.PlayerAt(battle.Defender.Player).Name + (won ? ", was successful." : ", was held off.") +
+           "\r" + game.Current().Name + " lost " + losses(battle.Attacker.Lost) + ", and defender lost " +
+           losses(battle.Defender.Lost) + ".\r";
 }
 
 /// True when the attack has eliminated its defender.
 bool Attack(GameState& game, Random& random, Pair pair, std::string& body) {
     Territory& from = game.TerritoryAt(pair.From);
-    Battle battle = BeginBattle(game, pair.To, from.Troops, from.Tanks);
-    from.Troops = TroopsLeftBehind;
-    from.Tanks = 0;
+    Battle battle = BeginBattle(game, pair.To, from.Stationed);
+    from.Stationed = {TroopsLeftBehind, 0};
     const bool won = Fight(game, random, battle);
     body += BattleLines(game, battle, won);
     if (!won) {
         return false;
     }
-    Capture(game, pair.To, battle.Troops, battle.Tanks);
-    if (!CheckDead(game, battle.Defender)) {
+    Capture(game, pair.To, battle.Attacker.Force);
+    if (!CheckDead(game, battle.Defender.Player)) {
         return false;
     }
-    body += NowDeadText(battle.Defender) + "\r";
+    body += NowDeadText(battle.Defender.Player) + "\r";
     return true;
 }
 
@@ -74,12 +74,11 @@ void StrikeByComputer(GameState& game, std::string& body) {
     }
     for (int t = 0; t < NumTerritories; ++t) {
         const Territory& target = game.TerritoryAt(t);
-        if (IsEnemy(game, t) && target.Troops >= TroopsWorthABomb) {
-            const BombLosses losses = DropBomb(game, t);
-            body += "Player " + std::to_string(target.Owner + 1) + ", " + game.PlayerAt(target.Owner).Name +
-                    "'s, " + std::string(target.Name) + " was nuked and lost " +
-                    std::to_string(losses.Troops) + " troops and " + std::to_string(losses.Tanks) +
-                    " tanks.\r";
+        if (IsEnemy(game, t) && target.Stationed.Troops >= TroopsWorthABomb) {
+            const Units losses = DropBomb(game, t);
+            body += PlayerAndName(game, target.Owner) + "'s, " + std::string(target.Name) +
+                    " was nuked and lost " + std::to_string(losses.Troops) + " troops and " +
+                    std::to_string(losses.Tanks) + " tanks.\r";
             return;
         }
     }

@@ -3,6 +3,7 @@
 #include "computer/attacks.h"
 #include "computer/expansion.h"
 #include "computer/reinforcement.h"
+#include "turn/turn_cycle.h"
 #include "turn/victory.h"
 
 namespace vorlund {
@@ -40,7 +41,7 @@ Census TakeCensus(const GameState& game) {
             continue;
         }
         ++census.Territories;
-        const int strength = 3 * game.TerritoryAt(t).Tanks + game.TerritoryAt(t).Troops;
+        const int strength = 3 * game.TerritoryAt(t).Stationed.Tanks + game.TerritoryAt(t).Stationed.Troops;
         if (strength >= bestStrength) {
             bestStrength = strength;
             census.Strongest = t;
@@ -56,7 +57,7 @@ void ComputerTurn(GameState& game, Random& random, Screens& screens) {
     Player& player = game.Current();
     screens.CloseReport();
     random.Reseed();
-    screens.SetBoardTitle("Vorlund - " + player.Name + "'s turn");
+    screens.SetBoardTitle(TurnTitle(game));
     Report report{"Computer player " + player.Name + "'s status", "The computer did the following:", ""};
 
     if (random.Draw(BombFaces) == BombRoll) {

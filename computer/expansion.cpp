@@ -34,7 +34,7 @@ std::optional<int> EmptyNeighbour(const GameState& game, int t, Direction slots)
 void Settle(GameState& game, Random& random, int t, std::string& body) {
     Claim(game, t, game.CurrentPlayer);
     Territory& territory = game.TerritoryAt(t);
-    territory.Troops = SettlingTroops;
+    territory.Stationed.Troops = SettlingTroops;
     body += "Moved forces into " + std::string(territory.Name) + ".\r";
     if (random.Draw(DefenseFaces) == DefenseRoll) {
         territory.HasDefense = true;

@@ -25,12 +25,12 @@ int CountContacts(const GameState& game) {
 
 /// The fewer units stand there, the likelier: always a troop up to three, then 3 in `Troops`; a tank 1 in
 /// 2 x `Tanks` + 3.
-void ReinforceQuietBorder(Territory& territory, Random& random) {
-    if (random.Draw(territory.Troops) < 3) {
-        Add(territory.Troops, 1);
+void ReinforceQuietBorder(Units& units, Random& random) {
+    if (random.Draw(units.Troops) < 3) {
+        Add(units.Troops, 1);
     }
-    if (random.Draw(2 * territory.Tanks + 3) == 0) {
-        Add(territory.Tanks, 1);
+    if (random.Draw(2 * units.Tanks + 3) == 0) {
+        Add(units.Tanks, 1);
     }
 }
 
@@ -41,10 +41,10 @@ void ReinforceBorders(const GameState& game, Random& random, Territory& territor
             continue;
         }
         if (IsEnemy(game, neighbour)) {
-            Add(territory.Troops, share);
-            Add(territory.Tanks, tankBonus ? 1 : 0);
+            Add(territory.Stationed.Troops, share);
+            Add(territory.Stationed.Tanks, tankBonus ? 1 : 0);
         } else {
-            ReinforceQuietBorder(territory, random);
+            ReinforceQuietBorder(territory.Stationed, random);
         }
     }
 }
@@ -63,8 +63,8 @@ void Reinforce(GameState& game, Random& random, int territoryCount) {
         if (contacts > 0) {
             ReinforceBorders(game, random, territory, pool / contacts, tankBonus);
         } else {
-            Add(territory.Troops, pool / territoryCount + 1);
-            Add(territory.Tanks, random.Draw(QuietTankFaces) == QuietTankRoll ? 1 : 0);
+            Add(territory.Stationed.Troops, pool / territoryCount + 1);
+            Add(territory.Stationed.Tanks, random.Draw(QuietTankFaces) == QuietTankRoll ? 1 : 0);
         }
     }
 }

@@ -162,8 +162,9 @@ Finding ExamineTerritory(const GameState& game, int t) {
                            PlayerWords(p) + "'s Owns and the Owner of " + name + " do not agree."};
         }
     }
-    const std::array<bool, LinesPerTerritory> stands{territory.HasDefense, territory.HasFactory, false, false,
-                                                     territory.Tanks != 0, territory.Troops != 0};
+    const std::array<bool, LinesPerTerritory> stands{
+        territory.HasDefense,           territory.HasFactory,           false, false,
+        territory.Stationed.Tanks != 0, territory.Stationed.Troops != 0};
     const auto found = std::find(stands.begin(), stands.end(), true);
     if (!territory.Occupied && found != stands.end()) {
         return BadFile{line + static_cast<int>(found - stands.begin()),

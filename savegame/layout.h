@@ -5,6 +5,7 @@
 #include <string>
 
 #include "state/game_state.h"
+#include "state/player_words.h"
 #include "state/world.h"
 
 namespace vorlund {
@@ -29,10 +30,6 @@ constexpr int TerritoryLine(int players, int territory) {
     return PlayerLine(players) + LinesPerTerritory * territory;
 }
 
-inline std::string PlayerWords(int player) {
-    return "Player " + std::to_string(player + 1);
-}
-
 /// Totals may be anything: those of computer players lag behind what they own, even below zero.
 template <typename PlayerType, typename Visitor>
 bool VisitPlayer(PlayerType& player, const std::string& whose, Visitor& visitor) {
@@ -48,8 +45,8 @@ bool VisitPlayer(PlayerType& player, const std::string& whose, Visitor& visitor)
            visitor.Integer(player.NuclearLevel, "NuclearLevel", whose, 0, 3) &&
            visitor.Boolean(player.HasNuke, "HasNuke", whose) &&
            visitor.Integer(player.Oil, "Oil", whose, LowestInt16, HighestInt16) &&
-           visitor.Integer(player.Tanks, "Tanks", whose, LowestInt16, HighestInt16) &&
-           visitor.Integer(player.Troops, "Troops", whose, LowestInt16, HighestInt16) &&
+           visitor.Integer(player.Total.Tanks, "Tanks", whose, LowestInt16, HighestInt16) &&
+           visitor.Integer(player.Total.Troops, "Troops", whose, LowestInt16, HighestInt16) &&
            visitor.Integer(player.WarfareLevel, "WarfareLevel", whose, 0, 3) &&
            visitor.Boolean(player.IsComputer, "IsComputer", whose);
 }
@@ -60,14 +57,14 @@ bool VisitTerritory(TerritoryType& territory, const std::string& whose, Visitor&
            visitor.Boolean(territory.HasFactory, "HasFactory", whose) &&
            visitor.Boolean(territory.Occupied, "Occupied", whose) &&
            visitor.Integer(territory.Owner, "Owner", whose, 0, NoOwner) &&
-           visitor.Integer(territory.Tanks, "Tanks", whose, 0, HighestInt16) &&
-           visitor.Integer(territory.Troops, "Troops", whose, 0, HighestInt16);
+           visitor.Integer(territory.Stationed.Tanks, "Tanks", whose, 0, HighestInt16) &&
+           visitor.Integer(territory.Stationed.Troops, "Troops", whose, 0, HighestInt16);
 }
 
 /// Shows every value of `game` to `visitor`, in file order. False when the visitor ended the visit.
 template <typename Game, typename Visitor>
 bool VisitGame(Game& game, Visitor& visitor) {
-    if (!visitor.Integer(game.NumPlayers, "NumPlayers", "the game", 2, MaxPlayers)) {
+    if (!visitor.Integer(game.NumPlayers, "NumPlayers", "the game", MinPlayers, MaxPlayers)) {
         return false;
     }
     for (int p = 0; p < game.NumPlayers; ++p) {

@@ -29,6 +29,10 @@ bool MeansComputer(std::string_view typedName) {
 
 }  // namespace
 
+void SetNumPlayers(GameState& game, int players) {
+    game.NumPlayers = static_cast<std::int16_t>(players);
+}
+
 std::optional<NamesRefusal> EnterNames(GameState& game, std::span<const std::string> names) {
     const auto isMissing = [](const std::string& name) { return name.empty(); };
     if (auto refusal = RefuseRows(names, isMissing, "Enter a name for Player ", ".")) {

@@ -8,6 +8,9 @@
 
 namespace vorlund {
 
+/// Says how many players take part in a new game, MinPlayers to MaxPlayers.
+void SetNumPlayers(GameState& game, int players);
+
 /// The names are not accepted. `Prompt` says why; the computer beeps `Beeps` times.
 struct NamesRefusal {
     std::string Prompt;

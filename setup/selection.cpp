@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "state/ownership.h"
+#include "state/player_words.h"
 #include "state/typed_number.h"
 
 namespace vorlund {
@@ -16,23 +17,13 @@ struct Treasury {
 constexpr Treasury HumanTreasury{HumanStartingMoney, 0};
 constexpr Treasury ComputerTreasury{9000, 9000};
 
-std::string NumberOf(const GameState& game) {
-    return "Player " + std::to_string(game.CurrentPlayer + 1);
-}
-
-std::string NumberAndName(const GameState& game) {
-    return NumberOf(game) + ", " + game.Current().Name;
-}
-
 void Settle(GameState& game, int t, int p, const Treasury& treasury) {
     Claim(game, t, p);
     Territory& territory = game.TerritoryAt(t);
     territory.HasFactory = true;
-    territory.Troops = StartingTroops;
-    territory.Tanks = 0;
+    territory.Stationed = {StartingTroops, 0};
     Player& player = game.PlayerAt(p);
-    player.Troops = StartingTroops;
-    player.Tanks = 0;
+    player.Total = {StartingTroops, 0};
     player.Factories = 1;
     player.Money = treasury.Money;
     player.Oil = treasury.Oil;
@@ -58,7 +49,7 @@ std::string Selection::Open() {
         game_.StartingPlayer = static_cast<std::int16_t>(random_.Draw(game_.NumPlayers));
         game_.CurrentPlayer = game_.StartingPlayer;
     } while (game_.Current().IsComputer);
-    return NumberAndName(game_) + ", has been chosen to select first.";
+    return PlayerAndName(game_, game_.CurrentPlayer) + ", has been chosen to select first.";
 }
 
 Selection::Step Selection::Entr(std::string_view typed) {
@@ -70,8 +61,8 @@ Selection::Step Selection::Entr(std::string_view typed) {
         return Reject("Territory already occupied.");
     }
     Settle(game_, *t, game_.CurrentPlayer, HumanTreasury);
-    Step step{Step::Kind::NextHuman,
-              NumberOf(game_) + " selected " + std::string(game_.TerritoryAt(*t).Name) + "\r"};
+    Step step{Step::Kind::NextHuman, PlayerWords(game_.CurrentPlayer) + " selected " +
+                                         std::string(game_.TerritoryAt(*t).Name) + "\r"};
     ++picks_;
     do {
         game_.CurrentPlayer = static_cast<std::int16_t>((game_.CurrentPlayer + 1) % game_.NumPlayers);
@@ -83,12 +74,13 @@ Selection::Step Selection::Entr(std::string_view typed) {
             return step;
         }
     } while (game_.Current().IsComputer);
-    step.Message += NumberAndName(game_) + ", select a territory.";
+    step.Message += PlayerAndName(game_, game_.CurrentPlayer) + ", select a territory.";
     return step;
 }
 
 Selection::Step Selection::Reject(const std::string& reason) const {
-    return {Step::Kind::Rejected, reason + "\r" + NumberAndName(game_) + ", select again."};
+    return {Step::Kind::Rejected,
+            reason + "\r" + PlayerAndName(game_, game_.CurrentPlayer) + ", select again."};
 }
 
 void Selection::ClaimForComputers() {

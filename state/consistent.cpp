@@ -20,9 +20,8 @@ bool OwnershipAgrees(const GameState& game, int t) {
 }
 
 bool UnitsAndBuildingsAreSound(const Territory& territory) {
-    const bool empty =
-        territory.Troops == 0 && territory.Tanks == 0 && !territory.HasFactory && !territory.HasDefense;
-    return territory.Troops >= 0 && territory.Tanks >= 0 && (territory.Occupied || empty);
+    const bool empty = territory.Stationed.IsEmpty() && !territory.HasFactory && !territory.HasDefense;
+    return territory.Stationed.Troops >= 0 && territory.Stationed.Tanks >= 0 && (territory.Occupied || empty);
 }
 
 bool PlayerIsSound(const Player& player) {

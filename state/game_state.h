@@ -5,9 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "state/units.h"
+
 namespace vorlund {
 
 inline constexpr int NumTerritories = 42;
+inline constexpr int MinPlayers = 2;
 inline constexpr int MaxPlayers = 5;
 inline constexpr int NeighbourSlots = 6;
 inline constexpr std::int16_t NoOwner = 9;       ///< in Territory::Owner: nobody owns it
@@ -25,8 +28,7 @@ struct Territory {
 
     // Changed by play
     std::int16_t Owner = NoOwner;
-    std::int16_t Tanks = 0;
-    std::int16_t Troops = 0;
+    Units Stationed;
     bool HasDefense = false;
     bool Occupied = false;
     bool HasFactory = false;
@@ -38,10 +40,9 @@ struct Territory {
 struct Player {
     std::string Name;  ///< UTF-8
 
-    // Running totals over all territories. Units that a computer player creates are not added to its totals,
-    // so those may even run below zero.
-    std::int16_t Tanks = 0;
-    std::int16_t Troops = 0;
+    // Running totals over all territories. Units that a computer player creates are not added to its total,
+    // so that may even run below zero.
+    Units Total;
     std::int16_t Factories = 0;
     std::array<bool, NumTerritories> Owns{};
 

@@ -24,11 +24,10 @@ void Abandon(GameState& game, int t) {
     territory.HasDefense = false;
 }
 
-void Capture(GameState& game, int t, std::int16_t troops, std::int16_t tanks) {
+void Capture(GameState& game, int t, const Units& force) {
     Abandon(game, t);
     Claim(game, t, game.CurrentPlayer);
-    game.TerritoryAt(t).Troops = troops;
-    game.TerritoryAt(t).Tanks = tanks;
+    game.TerritoryAt(t).Stationed = force;
 }
 
 }  // namespace vorlund

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "state/game_state.h"
 
 namespace vorlund {
@@ -20,6 +18,6 @@ void Abandon(GameState& game, int territory);
 /// Gives territory index `territory`, held by another player, to the current player with the force that
 /// survived the battle for it. Its factory and defense are destroyed, the factory comes off the loser's
 /// count.
-void Capture(GameState& game, int territory, std::int16_t troops, std::int16_t tanks);
+void Capture(GameState& game, int territory, const Units& force);
 
 }  // namespace vorlund

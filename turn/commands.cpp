@@ -20,25 +20,28 @@ CommandSet CommandSet::Without(Command command) const {
     return result;
 }
 
-CommandSet AvailableCommands(const GameState& game) {
-    if (game.GameOver || game.DeadPlayers == game.NumPlayers) {
-        return CommandSet::None();
-    }
-    if (game.Current().IsDead) {
-        return CommandSet::Only(Command::EndTurn);
-    }
-    return game.Current().FirstTurn ? CommandSet::All().Without(Command::Attack) : CommandSet::All();
-}
-
-std::string WhyUnavailable(const GameState& game, Command command) {
-    if (AvailableCommands(game).Has(command)) {
-        return {};
-    }
+WhyNot WhyUnavailable(const GameState& game, Command command) {
     if (game.GameOver || game.DeadPlayers == game.NumPlayers) {
         return "The game is over.";
     }
-    return game.Current().IsDead ? "You are dead and can only end your turn."
-                                 : "Nobody attacks in their first turn.";
+    const Player& player = game.Current();
+    if (player.IsDead && command != Command::EndTurn) {
+        return "You are dead and can only end your turn.";
+    }
+    if (player.FirstTurn && command == Command::Attack) {
+        return "Nobody attacks in their first turn.";
+    }
+    return std::nullopt;
+}
+
+CommandSet AvailableCommands(const GameState& game) {
+    CommandSet available;
+    for (const Command command : AllCommands) {
+        if (!WhyUnavailable(game, command)) {
+            available = available.With(command);
+        }
+    }
+    return available;
 }
 
 }  // namespace vorlund

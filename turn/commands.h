@@ -2,6 +2,7 @@
 
 #include <array>
 #include <bitset>
+#include <optional>
 #include <string>
 
 #include "state/game_state.h"
@@ -33,12 +34,16 @@ private:
     std::bitset<NumCommands> bits_;
 };
 
-/// The commands that the current player may use when no dialog, report or computer's turn stands in the way:
-/// none once the game is over or nobody lives, End Turn alone for a dead player, and otherwise all, Attack
-/// only after the player's first turn. This is the one place that decides it.
-CommandSet AvailableCommands(const GameState& game);
+/// Why something cannot be done now, a sentence for the player; nothing when it can. What a command of a
+/// dialog needs is said beside its action.
+using WhyNot = std::optional<std::string>;
 
-/// Why AvailableCommands leaves `command` out, as a sentence for the player; empty when it does not.
-std::string WhyUnavailable(const GameState& game, Command command);
+/// Why the current player may not use `command` when no dialog, report or computer's turn stands in the way:
+/// the game is over or nobody lives, the player is dead and can only end the turn, or would attack in the
+/// first turn. This is the one place that decides it.
+WhyNot WhyUnavailable(const GameState& game, Command command);
+
+/// All commands that are not unavailable.
+CommandSet AvailableCommands(const GameState& game);
 
 }  // namespace vorlund

@@ -22,6 +22,18 @@ bool NothingMoreToDo(const GameState& game) {
 
 }  // namespace
 
+std::string TurnTitle(const GameState& game) {
+    return "Vorlund - " + game.Current().Name + "'s turn";
+}
+
+std::int16_t NextAlive(const GameState& game, int player) {
+    int next = player;
+    do {
+        next = (next + 1) % game.NumPlayers;
+    } while (next != player && game.PlayerAt(next).IsDead);
+    return static_cast<std::int16_t>(next);
+}
+
 TurnCycle::TurnCycle(GameState& game, Random& random, Screens& screens, std::function<void()> computerTurn)
     : game_(game), random_(random), screens_(screens), computerTurn_(std::move(computerTurn)) {}
 
@@ -36,7 +48,7 @@ void TurnCycle::PassTurn() {
     game_.ComputerTurnEnded = false;
     screens_.SetCommands(CommandSet::None());
     game_.Current().FirstTurn = false;
-    Advance();
+    game_.CurrentPlayer = NextAlive(game_, game_.CurrentPlayer);
     if (OneIsLeft(game_)) {
         DeclareWinner(game_, screens_, game_.CurrentPlayer, nullptr);
         return;
@@ -54,20 +66,16 @@ bool TurnCycle::ReportClosed() {
     if (NothingMoreToDo(game_)) {
         return false;
     }
-    if (!game_.Current().IsComputer) {
-        if (game_.ComputerTurnEnded) {
-            PassTurn();
-            return true;
-        }
+    if (!game_.Current().IsComputer && !game_.ComputerTurnEnded) {
         screens_.SetCommands(AvailableCommands(game_));
         return false;
     }
-    const std::int16_t computer = game_.CurrentPlayer;
-    Advance();
-    if (game_.Current().IsComputer) {
+    const std::int16_t next = NextAlive(game_, game_.CurrentPlayer);
+    if (game_.Current().IsComputer && game_.PlayerAt(next).IsComputer) {
+        // Not a turn that somebody ended: there are no new moves and attacks, which no computer uses.
+        game_.CurrentPlayer = next;
         computerTurn_();
     } else {
-        game_.CurrentPlayer = computer;
         PassTurn();
     }
     return true;
@@ -80,21 +88,11 @@ void TurnCycle::OpenFirstTurn() {
     assert(Consistent(game_));
 }
 
-void TurnCycle::Advance() {
-    for (int steps = 0; steps < game_.NumPlayers; ++steps) {
-        const bool last = game_.CurrentPlayer > game_.NumPlayers - 2;
-        game_.CurrentPlayer = last ? std::int16_t{0} : static_cast<std::int16_t>(game_.CurrentPlayer + 1);
-        if (!game_.Current().IsDead) {
-            return;
-        }
-    }
-}
-
 void TurnCycle::BeginTurn() {
     Player& player = game_.Current();
     player.AttacksLeft = AttacksPerTurn;
     player.MovesLeft = MovesPerTurn;
-    screens_.SetBoardTitle("Vorlund - " + player.Name + "'s turn");
+    screens_.SetBoardTitle(TurnTitle(game_));
 }
 
 void TurnCycle::RunUpkeepOfCurrentPlayer(bool withPicture) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "state/game_state.h"
 #include "state/random.h"
@@ -11,6 +12,12 @@ namespace vorlund {
 
 inline constexpr std::int16_t MovesPerTurn = 2;
 inline constexpr std::int16_t AttacksPerTurn = 2;
+
+/// The board's title in the current player's turn: "Vorlund - Anna's turn".
+std::string TurnTitle(const GameState& game);
+
+/// Who is next in the order of play after player index `player` and alive; `player` when nobody else is.
+std::int16_t NextAlive(const GameState& game, int player);
 
 /// Moves play from player to player: what End Turn does, and what closing a report leads to.
 class TurnCycle {
@@ -36,9 +43,6 @@ public:
 private:
     /// What EndTurn does once the report of the turn is out of the way.
     void PassTurn();
-
-    /// Moves CurrentPlayer on to the next living player, at most once round.
-    void Advance();
 
     /// Moves and attacks of the current player's turn, and their name in the board's title.
     void BeginTurn();

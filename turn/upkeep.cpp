@@ -4,6 +4,7 @@
 
 #include "state/int16.h"
 #include "state/ownership.h"
+#include "state/player_words.h"
 
 namespace vorlund {
 namespace {
@@ -47,8 +48,7 @@ void Collapse(GameState& game, int p) {
     for (int t = 0; t < NumTerritories; ++t) {
         if (Owns(game, p, t)) {
             Abandon(game, t);
-            game.TerritoryAt(t).Troops = 0;
-            game.TerritoryAt(t).Tanks = 0;
+            game.TerritoryAt(t).Stationed = {};
         }
     }
     player.Factories = factories;  // the totals of the dead stay as they were
@@ -58,15 +58,16 @@ void Collapse(GameState& game, int p) {
 
 Report RunUpkeep(GameState& game, Random& random, int p) {
     Player& player = game.PlayerAt(p);
-    const std::int16_t upkeep = ClampInt16(TroopUpkeep * player.Troops + FactoryUpkeep * player.Factories);
-    const std::int16_t tankUpkeep = ClampInt16(std::int64_t{TankUpkeepBarrels} * player.Tanks);
+    const std::int16_t upkeep =
+        ClampInt16(TroopUpkeep * player.Total.Troops + FactoryUpkeep * player.Factories);
+    const std::int16_t tankUpkeep = ClampInt16(std::int64_t{TankUpkeepBarrels} * player.Total.Tanks);
     const Harvest harvest = HarvestOf(game, p);
     int money = player.Money - upkeep + harvest.Income;
     int oil = player.Oil - tankUpkeep + harvest.Oil;
 
     Report report;
     report.Title = "Vorlund - Upkeep";
-    report.Headline = "Upkeep status for Player " + std::to_string(p + 1) + ", " + player.Name + ".";
+    report.Headline = "Upkeep status for " + PlayerAndName(game, p) + ".";
     std::string& body = report.Body;
     body = "Upkeep for Troops and Factories: $" + std::to_string(upkeep) + "\r" +
            "Upkeep for Tanks: " + std::to_string(tankUpkeep) + " barrels\r\r" +

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "state/player_words.h"
+
 namespace vorlund {
 
 bool CheckDead(GameState& game, int player) {
@@ -15,7 +17,7 @@ bool CheckDead(GameState& game, int player) {
 }
 
 std::string NowDeadText(int player) {
-    return "Player " + std::to_string(player + 1) + " is now dead.";
+    return PlayerWords(player) + " is now dead.";
 }
 
 void DeclareWinner(GameState& game, Screens& screens, int player, const Report* computerReport) {
@@ -27,13 +29,12 @@ void DeclareWinner(GameState& game, Screens& screens, int player, const Report* 
         screens.ShowReport(*computerReport, player);
     }
     screens.SetBoardTitle("Vorlund - " + name + " wins");
-    screens.Announce("Player " + std::to_string(player + 1) + ", " + name +
+    screens.Announce(PlayerAndName(game, player) +
                      (computerReport != nullptr ? ", wins the game!" : ", you win the game!"));
 }
 
-void NobodyWins(GameState& game, Screens& screens) {
+void NobodyWins(Screens& screens) {
     screens.RefreshMap();
-    game.GameOver = true;
     screens.SetCommands(CommandSet::None());
     screens.Announce("All players are dead, no one wins...");
     screens.CloseDialogs();

@@ -23,7 +23,7 @@ inline constexpr const char* KilledYourselfText =
 /// turn.
 void DeclareWinner(GameState& game, Screens& screens, int player, const Report* computerReport);
 
-/// Ends the game without a winner.
-void NobodyWins(GameState& game, Screens& screens);
+/// Shows that the game has ended without a winner, as an order has found.
+void NobodyWins(Screens& screens);
 
 }  // namespace vorlund

@@ -115,7 +115,7 @@ void GameScreens::DialogClosed() {
 }
 
 void GameScreens::NobodyIsLeft() {
-    NobodyWins(game_, *this);
+    NobodyWins(*this);
 }
 
 void GameScreens::RefreshMap() {

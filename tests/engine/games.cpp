@@ -24,7 +24,7 @@ constexpr std::array Nasty{"",     " ",   "abc", "0",    "-1",    "-0.4",  ".5",
                            ".",    "1e",  "\t1", "1\n",  "\r",    "\"1\"", "½",      "99",  "3.9",  "-.5"};
 
 /// Mostly small, sometimes at the end of the range, but no more than `room`.
-std::int16_t Units(Random& hands, int most, int room = 32767) {
+std::int16_t Count(Random& hands, int most, int room = 32767) {
     return ClampInt16(std::min(OneIn(50, hands) ? 32767 - hands.Draw(3) : hands.Draw(most), room));
 }
 
@@ -58,7 +58,7 @@ GameState RandomNewGame(Random& hands, Random& chance) {
     do {
         names.resize(static_cast<std::size_t>(2 + hands.Draw(4)));
         std::generate(names.begin(), names.end(), [&] { return NameEntry(hands); });
-        game.NumPlayers = static_cast<std::int16_t>(names.size());
+        SetNumPlayers(game, static_cast<int>(names.size()));
     } while (EnterNames(game, names));
     Selection selection(game, chance);
     selection.Open();
@@ -75,7 +75,8 @@ GameState RandomPosition(Random& hands) {
         if (p < game.NumPlayers) {
             // A human's totals are exact, so they bound what may stand on the map.
             const Player& owner = game.PlayerAt(p);
-            Give(game, t, p, Units(hands, 60, 32767 - owner.Troops), Units(hands, 8, 32767 - owner.Tanks));
+            Give(game, t, p, Count(hands, 60, 32767 - owner.Total.Troops),
+                 Count(hands, 8, 32767 - owner.Total.Tanks));
             if (OneIn(4, hands)) {
                 GiveFactory(game, t);
             }
@@ -85,11 +86,11 @@ GameState RandomPosition(Random& hands) {
     for (int p = 0; p < game.NumPlayers; ++p) {
         Player& player = game.PlayerAt(p);
         player.IsComputer = p > 0 && OneIn(2, hands);
-        Add(player.Troops, player.IsComputer ? -hands.Draw(500) : 0);
+        Add(player.Total.Troops, player.IsComputer ? -hands.Draw(500) : 0);
         player.Money = ClampInt16(OneIn(5, hands) ? hands.Draw(65536) - 32768 : hands.Draw(800));
-        player.Oil = Units(hands, 100);
-        player.EconomyLevel = player.WarfareLevel = player.NuclearLevel = Units(hands, 4, 3);
-        player.DebtTurns = Units(hands, 3, 2);
+        player.Oil = Count(hands, 100);
+        player.EconomyLevel = player.WarfareLevel = player.NuclearLevel = Count(hands, 4, 3);
+        player.DebtTurns = Count(hands, 3, 2);
         player.HasNuke = OneIn(3, hands);
         player.FirstTurn = OneIn(6, hands);
         if (std::count(player.Owns.begin(), player.Owns.end(), true) == 0) {
@@ -116,8 +117,7 @@ Route RandomRoute(const GameState& game, Random& hands) {
     const int slot = Any(source.Neighbours, hands);
     const int to = slot == NoNeighbour ? source.Neighbours[0] : slot;
     return {OneIn(10, hands) ? TerritoryEntry(game, hands) : std::to_string(from + 1),
-            OneIn(10, hands) ? TerritoryEntry(game, hands) : std::to_string(to + 1), source.Troops,
-            source.Tanks};
+            OneIn(10, hands) ? TerritoryEntry(game, hands) : std::to_string(to + 1), source.Stationed};
 }
 
 std::string BrokenRecords(const GameState& game) {
@@ -129,12 +129,11 @@ std::string BrokenRecords(const GameState& game) {
         Player sum;
         for (const Territory& territory : game.Territories) {
             const bool owns = territory.Owner == p;
-            Add(sum.Troops, owns ? territory.Troops : 0);
-            Add(sum.Tanks, owns ? territory.Tanks : 0);
+            Add(sum.Total, owns ? territory.Stationed : Units{});
             Add(sum.Factories, owns && territory.HasFactory ? 1 : 0);
         }
-        const bool units = player.Troops == sum.Troops && player.Tanks == sum.Tanks;
-        if (!player.IsDead && (player.Factories != sum.Factories || !(units || player.IsComputer))) {
+        if (!player.IsDead &&
+            (player.Factories != sum.Factories || (player.Total != sum.Total && !player.IsComputer))) {
             return "the totals of player " + std::to_string(p + 1) + " are wrong";
         }
     }

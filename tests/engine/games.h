@@ -50,8 +50,7 @@ std::string QuantityEntry(int limit, Random& hands);
 struct Route {
     std::string From;
     std::string To;
-    int Troops = 0;  ///< what stands at `From`, for the quantities
-    int Tanks = 0;
+    Units Force;  ///< what stands at `From`, for the quantities
 };
 Route RandomRoute(const GameState& game, Random& hands);
 

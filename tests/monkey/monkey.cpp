@@ -182,11 +182,12 @@ private:
         if (field == QLatin1String("txtSave") || field.startsWith(QLatin1String("txtN("))) {
             return QString::fromStdString(NameEntry(mind_));
         }
-        return QString::fromStdString(field == QLatin1String("txtTroops") ? QuantityEntry(route.Troops, mind_)
-                                      : field == QLatin1String("txtTanks") ? QuantityEntry(route.Tanks, mind_)
-                                      : field == QLatin1String("txtOil")   ? QuantityEntry(30, mind_)
-                                      : field == QLatin1String("txtC1") || OneIn(3, mind_) ? route.From
-                                                                                           : route.To);
+        return QString::fromStdString(
+            field == QLatin1String("txtTroops")                  ? QuantityEntry(route.Force.Troops, mind_)
+            : field == QLatin1String("txtTanks")                 ? QuantityEntry(route.Force.Tanks, mind_)
+            : field == QLatin1String("txtOil")                   ? QuantityEntry(30, mind_)
+            : field == QLatin1String("txtC1") || OneIn(3, mind_) ? route.From
+                                                                 : route.To);
     }
 
     static CommandSet Available(const QWidget& board) {
@@ -227,7 +228,8 @@ private:
         for (int t = 0; t < NumTerritories; ++t) {
             const auto* const count = board->findChild<QLabel*>(QStringLiteral("lblCntry(%1)").arg(t));
             const Territory& territory = game_.TerritoryAt(t);
-            const QString units = QStringLiteral("%1/%2").arg(territory.Troops).arg(territory.Tanks);
+            const QString units =
+                QStringLiteral("%1/%2").arg(territory.Stationed.Troops).arg(territory.Stationed.Tanks);
             if (count->isHidden() ? territory.Occupied : count->text() != units) {
                 broken += "the board does not show what stands in " + std::string(territory.Name);
             }

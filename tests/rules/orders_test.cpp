@@ -66,6 +66,7 @@ TEST(Orders, Sell) {
     });
     Play alone(2, "7 Anna 10/0F; Ben IsDead 1", "");
     alone.Then("sell,7,10", "(nobody is left)", "7 nobody 0/0; Anna Factories 0 IsDead 1 Money 70 Troops 0");
+    EXPECT_TRUE(alone.Game.GameOver);
 }
 
 TEST(Orders, BuildAndUpgrade) {

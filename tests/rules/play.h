@@ -39,7 +39,7 @@ inline std::string Status(const GameState& game) {
     return s.Title + "|" + s.Name + "|" + s.Money + "|" + s.Oil + "|" + s.Troops + "|" + s.Tanks + "|" +
            s.Factories + "|" + s.Debt + "|" + s.Economy + "|" + s.Warfare + "|" + s.Nuclear + "|" +
            s.AttacksMoves + "|" + s.Upkeep + "|" + MoneyLine(game) + MovesLeftText(game) +
-           AttacksLeftText(game) + BombText(game) + StatusOf(game, Track::Warfare).Text;
+           AttacksLeftText(game) + BombText(game) + StatusOf(game, Track::Warfare);
 }
 
 /// `text` with these figures in the places of its # signs.
@@ -75,11 +75,11 @@ struct Play {
         }
         const auto& [verb, first, second, third, fourth] = typed;
         const auto said = [](const auto& outcome) { return std::visit(Said{}, outcome); };
-        return verb == "buy"      ? said(Buy(Game, {first, second, third, fourth}))
-               : verb == "sell"   ? said(Sell(Game, {first, second, third, fourth}))
-               : verb == "move"   ? said(Tran(Game, CanMove(Game), {first, second, third, fourth}))
-               : verb == "attack" ? said(Attck(Game, Chance, CanAttack(Game), {first, second, third, fourth}))
-               : verb == "strike" ? said(Strike(Game, Game.Current().HasNuke, first))
+        return verb == "buy"       ? said(Buy(Game, {first, second, third, fourth}))
+               : verb == "sell"    ? said(Sell(Game, {first, second, third, fourth}))
+               : verb == "move"    ? said(Tran(Game, {first, second, third, fourth}))
+               : verb == "attack"  ? said(Attck(Game, Chance, {first, second, third, fourth}))
+               : verb == "strike"  ? said(Strike(Game, first))
                : verb == "factory" ? said(Fact(Game, first))
                : verb == "defense" ? said(Def(Game, first))
                : verb == "upgrade" ? said(RaiseLevel(Game, static_cast<Track>(std::stoi(first))))

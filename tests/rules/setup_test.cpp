@@ -20,7 +20,7 @@ TEST(Locale, OfTheEnvironmentIsThere) {
 /// Enters the names: the refusal with its beeps, or nothing.
 std::string Enter(GameState& game, const std::vector<std::string>& typed) {
     game = FreshGame();
-    game.NumPlayers = static_cast<std::int16_t>(typed.size());
+    SetNumPlayers(game, static_cast<int>(typed.size()));
     game.GameLoaded = true;
     const auto refusal = EnterNames(game, typed);
     return refusal ? refusal->Prompt + " " + std::to_string(refusal->Beeps) : "";
@@ -95,7 +95,7 @@ TEST(Consistent, FindsEachBrokenRecord) {
     games[0].CurrentPlayer = 2;
     games[1].Players[1].Owns[3] = true;
     games[2].Territories[9].Occupied = true;
-    games[3].Territories[9].Tanks = 1;
+    games[3].Territories[9].Stationed.Tanks = 1;
     games[4].DeadPlayers = 1;
     EXPECT_TRUE(std::none_of(games.begin(), games.end(), Consistent));
 }

@@ -16,10 +16,9 @@ namespace vorlund {
 /// Gives territory index `t` with these units to `player`, whose totals grow by them.
 inline void Give(GameState& game, int t, int player, int troops, int tanks = 0) {
     Claim(game, t, player);
-    game.TerritoryAt(t).Troops = ClampInt16(troops);
-    game.TerritoryAt(t).Tanks = ClampInt16(tanks);
-    Add(game.PlayerAt(player).Troops, troops);
-    Add(game.PlayerAt(player).Tanks, tanks);
+    const Units units{ClampInt16(troops), ClampInt16(tanks)};
+    game.TerritoryAt(t).Stationed = units;
+    Add(game.PlayerAt(player).Total, units);
 }
 
 inline void GiveFactory(GameState& game, int t) {
@@ -27,9 +26,20 @@ inline void GiveFactory(GameState& game, int t) {
     Add(game.PlayerAt(game.TerritoryAt(t).Owner).Factories, 1);
 }
 
-inline const std::map<std::string, std::variant<std::int16_t Player::*, bool Player::*>> PlayerFields{
+using PlayerField = std::variant<std::int16_t Player::*, bool Player::*, std::int16_t Units::*>;
+
+template <typename PlayerType, typename Class, typename Value>
+auto& In(PlayerType& player, Value Class::*field) {
+    if constexpr (std::is_same_v<Class, Units>) {
+        return player.Total.*field;
+    } else {
+        return player.*field;
+    }
+}
+
+inline const std::map<std::string, PlayerField> PlayerFields{
     {"Money", &Player::Money},           {"Oil", &Player::Oil},
-    {"Troops", &Player::Troops},         {"Tanks", &Player::Tanks},
+    {"Troops", &Units::Troops},          {"Tanks", &Units::Tanks},
     {"Factories", &Player::Factories},   {"EconomyLevel", &Player::EconomyLevel},
     {"DebtTurns", &Player::DebtTurns},   {"WarfareLevel", &Player::WarfareLevel},
     {"MovesLeft", &Player::MovesLeft},   {"NuclearLevel", &Player::NuclearLevel},
@@ -47,17 +57,18 @@ inline std::string Changes(const GameState& before, const GameState& after) {
         const Territory& now = after.TerritoryAt(t);
         if (now != before.TerritoryAt(t)) {
             changes << std::exchange(between, "; ") << t + 1 << " "
-                    << (now.Occupied ? after.PlayerAt(now.Owner).Name : "nobody") << " " << now.Troops << "/"
-                    << now.Tanks << (now.HasFactory ? "F" : "") << (now.HasDefense ? "D" : "");
+                    << (now.Occupied ? after.PlayerAt(now.Owner).Name : "nobody") << " "
+                    << now.Stationed.Troops << "/" << now.Stationed.Tanks << (now.HasFactory ? "F" : "")
+                    << (now.HasDefense ? "D" : "");
         }
     }
     for (int p = 0; p < after.NumPlayers; ++p) {
         std::string who = after.PlayerAt(p).Name;
         for (const auto& [name, member] : PlayerFields) {
             const auto tell = [&, &field = name](auto value) {
-                if (after.PlayerAt(p).*value != before.PlayerAt(p).*value) {
+                if (In(after.PlayerAt(p), value) != In(before.PlayerAt(p), value)) {
                     changes << (who.empty() ? "" : std::exchange(between, "; ")) << std::exchange(who, "")
-                            << " " << field << " " << after.PlayerAt(p).*value;
+                            << " " << field << " " << In(after.PlayerAt(p), value);
                 }
             };
             std::visit(tell, member);
@@ -72,7 +83,7 @@ inline void Put(GameState& game, std::string world) {
     std::istringstream words(world);
     int t = 0;
     int p = 0;
-    const auto read = [&](auto field) { words >> game.PlayerAt(p).*field; };
+    const auto read = [&](auto field) { words >> In(game.PlayerAt(p), field); };
     for (std::string word; words >> word;) {
         const auto slash = word.find('/');
         if (PlayerFields.contains(word)) {

@@ -66,10 +66,9 @@ TEST(Turn, AnnouncesTheLastOneAliveWhoeverItIs) {
 
 TEST(Turn, ComesBackWhenNobodyLives) {
     Play play(2, "Anna IsDead 1 Ben IsDead 1", "0/13");
-    NobodyWins(play.Game, play.Seen);
+    NobodyWins(play.Seen);
     EXPECT_EQ(play.Seen.Calls,
               "RefreshMap; no commands; Announce All players are dead, no one wins...; CloseDialogs; ");
-    EXPECT_TRUE(play.Game.GameOver);
     play.Then("end", Ended + With("Anna 1 1 Anna", TurnBegins));
 }
 
@@ -96,8 +95,16 @@ TEST(Turn, GoesFromComputerToComputerAndOnToTheNextHuman) {
 }
 
 TEST(Turn, TellsWhyACommandIsMissing) {
-    GameState game = NewGame(2, "1 Anna 0/0 Ben IsDead 1 Anna FirstTurn 1");
+    GameState game =
+        NewGame(2, "1 Anna 0/0 Ben IsDead 1 Anna FirstTurn 1 WarfareLevel 3 AttacksLeft 0 MovesLeft 0");
     EXPECT_EQ(WhyUnavailable(game, Command::Attack), "Nobody attacks in their first turn.");
+    EXPECT_EQ(WhyNoAttack(game), "You have no attack left this turn.");
+    EXPECT_EQ(WhyNoMove(game), "You have no move left this turn.");
+    EXPECT_EQ(WhyNoStrike(game), "You have no nuclear bomb.");
+    EXPECT_EQ(WhyNoUpgrade(game, Track::Warfare), "This upgrade is at its highest level.");
+    Put(game, "Anna AttacksLeft 1 MovesLeft 1 HasNuke 1");
+    EXPECT_FALSE(WhyNoAttack(game) || WhyNoMove(game) || WhyNoStrike(game) ||
+                 WhyNoUpgrade(game, Track::Nuclear));
     Put(game, "Anna IsDead 1 Ben IsDead 0");
     EXPECT_EQ(WhyUnavailable(game, Command::Buy), "You are dead and can only end your turn.");
     Put(game, "Ben IsDead 1");

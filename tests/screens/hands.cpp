@@ -206,7 +206,8 @@ QString MapFault(const GameState& game) {
                                : land.HasDefense ? "Factory and defense"
                                                  : "Factory",
                                land.MapX, land.MapY);
-            due += at(QString("%1/%2").arg(land.Troops).arg(land.Tanks), land.MapX - 28, land.MapY + 12);
+            due += at(QString("%1/%2").arg(land.Stationed.Troops).arg(land.Stationed.Tanks), land.MapX - 28,
+                      land.MapY + 12);
         }
         const QString shown = seen("imgCntry", t) + seen("imgExtra", t) + seen("lblCntry", t);
         if (shown != due) {

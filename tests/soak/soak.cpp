@@ -76,18 +76,18 @@ private:
         const Route route = RandomRoute(Game, mind_);
         const auto upTo = [this](int limit) { return QuantityEntry(limit, mind_); };
         const int money = Game.Current().Money;
-        const std::string troops = upTo(*dialog_ == Command::Buy ? money / 20 : route.Troops);
-        const std::string tanks = upTo(*dialog_ == Command::Buy ? money / 80 : route.Tanks);
+        const std::string troops = upTo(*dialog_ == Command::Buy ? money / 20 : route.Force.Troops);
+        const std::string tanks = upTo(*dialog_ == Command::Buy ? money / 80 : route.Force.Tanks);
         if (*dialog_ == Command::Buy) {
             Settle(Buy(Game, {route.From, troops, tanks, upTo(money)}));
         } else if (*dialog_ == Command::Sell) {
             Settle(Sell(Game, {route.From, troops, tanks, upTo(Game.Current().Oil)}));
         } else if (*dialog_ == Command::Transport) {
-            Settle(Tran(Game, CanMove(Game), {route.From, route.To, troops, tanks}));
+            Settle(Tran(Game, {route.From, route.To, troops, tanks}));
         } else if (*dialog_ == Command::Attack && OneIn(4, mind_)) {
-            Settle(Strike(Game, Game.Current().HasNuke, route.To));
+            Settle(Strike(Game, route.To));
         } else if (*dialog_ == Command::Attack) {
-            Settle(Attck(Game, Chance, CanAttack(Game), {route.From, route.To, troops, tanks}));
+            Settle(Attck(Game, Chance, {route.From, route.To, troops, tanks}));
         } else if (*dialog_ == Command::Upgrade && OneIn(2, mind_)) {
             Settle((OneIn(2, mind_) ? Fact : Def)(Game, route.From));
         } else if (*dialog_ == Command::Upgrade) {
@@ -106,7 +106,7 @@ private:
             CloseDialog();
         }
         if (ordered_ && Game.DeadPlayers == Game.NumPlayers) {
-            NobodyWins(Game, Seen);
+            NobodyWins(Seen);
         }
     }
 

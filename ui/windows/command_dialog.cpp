@@ -25,6 +25,10 @@ void CommandDialog::Settle(const Report& report) {
     close();
 }
 
+void CommandDialog::Offer(CommandLabel& command, const WhyNot& whyNot) {
+    command.SetAvailable(!whyNot, Displayed(whyNot.value_or("")));
+}
+
 void CommandDialog::TakeTerritories(std::initializer_list<Field*> fields) {
     for (auto field = fields.begin(); field != fields.end(); ++field) {
         (*field)->TakeTerritories(field + 1 == fields.end() ? nullptr : *(field + 1));

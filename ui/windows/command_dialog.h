@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "actions/outcome.h"
+#include "turn/commands.h"
 #include "turn/report.h"
 #include "ui/parts/screen.h"
 
@@ -26,6 +27,9 @@ protected:
     void Settle(const Beep& beep);
     void Settle(const Refusal& refusal);
     void Settle(const Report& report);
+
+    /// Enables a command, or disables it for the reason that its tooltip then gives.
+    static void Offer(CommandLabel& command, const WhyNot& whyNot);
 
     /// Lets a click on the map type into these fields for territories, which belong to one command.
     void TakeTerritories(std::initializer_list<Field*> fields);

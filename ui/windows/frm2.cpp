@@ -15,7 +15,6 @@ namespace {
 
 constexpr int FirstRowY = 54;
 constexpr int RowHeight = 30;
-constexpr int FewestPlayers = 2;
 
 }  // namespace
 
@@ -39,7 +38,7 @@ frm2::frm2(GameState& game, TitleNavigation& navigation)
 
 void frm2::AddChoices() {
     for (int i = 0; i < 4; ++i) {
-        const int players = i + FewestPlayers;
+        const int players = i + MinPlayers;
         CommandLabel* choice =
             AddCommand(QStringLiteral("opt%1").arg(players), QStringLiteral("%1 Players").arg(players),
                        QRect(140, FirstRowY + 6 + 36 * i, 112, 19));
@@ -81,14 +80,14 @@ void frm2::Cont() {
 }
 
 void frm2::ShowNameRows() {
-    std::int16_t players = FewestPlayers;
+    int players = MinPlayers;
     for (CommandLabel* choice : choices_) {
         if (choice->isChecked()) {
             break;
         }
         ++players;
     }
-    game_.NumPlayers = players;
+    SetNumPlayers(game_, players);
     for (CommandLabel* choice : choices_) {
         choice->hide();
     }

@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <string>
 
+#include "turn/turn_cycle.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/game_navigation.h"
 #include "ui/windows/territory_text.h"
@@ -97,7 +98,7 @@ void frm3::AddCommandBar() {
 
 void frm3::Open() {
     if (game_.GameLoaded) {
-        setWindowTitle(Displayed("Vorlund - " + game_.Current().Name + "'s turn"));
+        setWindowTitle(Displayed(TurnTitle(game_)));
         RefreshMap();
         SetCommands(AvailableCommands(game_));
     } else {
@@ -132,7 +133,8 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
         marker.imgExtra->move(x, y);
     }
     marker.lblCntry->move(x - 28, y + 12);
-    marker.lblCntry->Show(std::to_string(territory.Troops) + "/" + std::to_string(territory.Tanks));
+    marker.lblCntry->Show(std::to_string(territory.Stationed.Troops) + "/" +
+                          std::to_string(territory.Stationed.Tanks));
     marker.lblCntry->setAccessibleName(ShortDescription(game_, t));
 }
 
@@ -140,10 +142,9 @@ void frm3::SetCommands(CommandSet available) {
     // The keyboard goes back to the board itself: an Enter too many after a report must not run a command.
     setFocus();
     for (const Command command : AllCommands) {
-        const std::string whyNot = WhyUnavailable(game_, command);
+        const WhyNot whyNot = WhyUnavailable(game_, command);
         commands_[static_cast<std::size_t>(command)]->SetAvailable(
-            available.Has(command),
-            whyNot.empty() ? QStringLiteral("Another window wants to be closed first.") : Displayed(whyNot));
+            available.Has(command), Displayed(whyNot.value_or("Another window wants to be closed first.")));
     }
 }
 

@@ -35,7 +35,7 @@ void frmAttack::AddBattleHalf() {
     txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
     lblAttack_ = AddCommand(QStringLiteral("lblAttack"), QStringLiteral("Attack"), QRect(336, 56, 60, 19));
     lblAttack_->SetKey(QStringLiteral("Enter"));
-    lblAttack_->SetAvailable(CanAttack(game_), QStringLiteral("You have no attack left this turn."));
+    Offer(*lblAttack_, WhyNoAttack(game_));
     TakeTerritories({txtC1_, txtC2_});
     connect(lblAttack_, &CommandLabel::clicked, this, &frmAttack::Attack);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
@@ -53,15 +53,15 @@ void frmAttack::AddStrikeHalf() {
     lblStrike_ =
         AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(296, 144, 108, 19));
     lblStrike_->SetKey(QStringLiteral("Enter"));
-    lblStrike_->SetAvailable(game_.Current().HasNuke, QStringLiteral("You have no nuclear bomb."));
+    Offer(*lblStrike_, WhyNoStrike(game_));
     TakeTerritories({txtN_});
     connect(lblStrike_, &CommandLabel::clicked, this, &frmAttack::LaunchNuke);
     connect(txtN_, &Field::Entered, this, &frmAttack::LaunchNuke);
 }
 
 void frmAttack::Attack() {
-    const AttackEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
-    const auto outcome = Attck(game_, random_, lblAttack_->isEnabled(), entries);
+    const OrderEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+    const auto outcome = Attck(game_, random_, entries);
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Gun);
     }
@@ -69,7 +69,7 @@ void frmAttack::Attack() {
 }
 
 void frmAttack::LaunchNuke() {
-    const auto outcome = Strike(game_, lblStrike_->isEnabled(), txtN_->Typed());
+    const auto outcome = Strike(game_, txtN_->Typed());
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Explode);
     }

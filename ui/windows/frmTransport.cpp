@@ -24,7 +24,7 @@ frmTransport::frmTransport(DialogHost& host, GameState& game)
     txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
     lblGo_ = AddCommand(QStringLiteral("lblGo"), QStringLiteral("Move"), QRect(328, 56, 48, 19));
     lblGo_->SetKey(QStringLiteral("Enter"));
-    ShowWhetherMovesAreLeft();
+    Offer(*lblGo_, WhyNoMove(game_));
     connect(lblGo_, &CommandLabel::clicked, this, &frmTransport::Move);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
         connect(field, &Field::Entered, this, &frmTransport::Move);
@@ -34,8 +34,8 @@ frmTransport::frmTransport(DialogHost& host, GameState& game)
 }
 
 void frmTransport::Move() {
-    const TransportEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
-    std::visit([this](const auto& outcome) { Settle(outcome); }, Tran(game_, lblGo_->isEnabled(), entries));
+    const OrderEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+    std::visit([this](const auto& outcome) { Settle(outcome); }, Tran(game_, entries));
 }
 
 void frmTransport::Settle(const Moved& moved) {
@@ -43,11 +43,7 @@ void frmTransport::Settle(const Moved& moved) {
     lblA_->Show(moved.StatusLine);
     txtTroops_->clear();
     txtTanks_->clear();
-    ShowWhetherMovesAreLeft();
-}
-
-void frmTransport::ShowWhetherMovesAreLeft() {
-    lblGo_->SetAvailable(CanMove(game_), QStringLiteral("You have no move left this turn."));
+    Offer(*lblGo_, WhyNoMove(game_));
 }
 
 }  // namespace vorlund

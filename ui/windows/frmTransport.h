@@ -14,7 +14,6 @@ public:
 
 private:
     void Move();
-    void ShowWhetherMovesAreLeft();
 
     using CommandDialog::Settle;
     void Settle(const Moved& moved);

@@ -71,9 +71,8 @@ void frmUpgrade::Update(const std::string& message) {
     }
     lblTop_->Show(message + MoneyLine(game_));
     for (const TrackRow& row : tracks_) {
-        const TrackStatus status = StatusOf(game_, row.Which);
-        row.Status->Show(status.Text);
-        row.Go->SetAvailable(status.CanRise, QStringLiteral("This upgrade is at its highest level."));
+        row.Status->Show(StatusOf(game_, row.Which));
+        Offer(*row.Go, WhyNoUpgrade(game_, row.Which));
     }
 }
 

@@ -21,11 +21,12 @@ QStringList Holdings(const GameState& game, const Territory& territory) {
     if (!territory.Occupied) {
         return {QStringLiteral("held by nobody")};
     }
-    QStringList holdings{QStringLiteral("%1 (Player %2)")
-                             .arg(Displayed(game.PlayerAt(territory.Owner).Name))
-                             .arg(territory.Owner + 1),
-                         Counted(territory.Troops, QStringLiteral("troop"), QStringLiteral("troops")),
-                         Counted(territory.Tanks, QStringLiteral("tank"), QStringLiteral("tanks"))};
+    QStringList holdings{
+        QStringLiteral("%1 (Player %2)")
+            .arg(Displayed(game.PlayerAt(territory.Owner).Name))
+            .arg(territory.Owner + 1),
+        Counted(territory.Stationed.Troops, QStringLiteral("troop"), QStringLiteral("troops")),
+        Counted(territory.Stationed.Tanks, QStringLiteral("tank"), QStringLiteral("tanks"))};
     if (territory.HasFactory) {
         holdings << QStringLiteral("factory");
     }

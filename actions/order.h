@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <variant>
+
+#include "actions/outcome.h"
+#include "state/game_state.h"
+
+namespace vorlund {
+
+/// What is typed into the fields of a move or an attack. The territories are numbers 1 to 42; an empty count
+/// of units is 0.
+struct OrderEntries {
+    std::string From;
+    std::string To;
+    std::string Troops;
+    std::string Tanks;
+};
+
+/// A force on its way from a territory of the current player to a neighbour.
+struct Order {
+    int From = 0;  ///< territory index
+    int To = 0;
+    Units Force;
+};
+
+/// What tells moves from attacks.
+struct OrderTerms {
+    bool IsAttack;
+    bool RoundsTanks;      ///< tanks are rounded before anything is checked, not cut down like troops
+    const char* NoFrom;    ///< why entries are refused: the first territory is missing
+    const char* NoTo;      ///< the second one is
+    const char* Invalid;   ///< an entry is no number, or the map does not allow the way
+    const char* MoreThan;  ///< more units of a kind than stand there; "troops than you have." follows
+    const char* Negative;  ///< fewer than none; "troops." follows
+};
+
+/// The order that `entries` give, if the map allows it and the territory holds the force, or why there is
+/// none. Whether there is anything to send is asked before fractions are cut off, so half a troop is an
+/// order.
+std::variant<Refusal, Order> ReadOrder(const GameState& game, const OrderTerms& terms,
+                                       const OrderEntries& entries);
+
+}  // namespace vorlund

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "state/game_state.h"
+
+namespace vorlund {
+
+/// What texts call player index `player`: "Player 3".
+inline std::string PlayerWords(int player) {
+    return "Player " + std::to_string(player + 1);
+}
+
+/// "Player 3, Cleo".
+inline std::string PlayerAndName(const GameState& game, int player) {
+    return PlayerWords(player) + ", " + game.PlayerAt(player).Name;
+}
+
+}  // namespace vorlund

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+
+#include "state/int16.h"
+
+namespace vorlund {
+
+/// A force: units that stand in a territory, are sent or traded, or have fallen. Only a player's total can be
+/// below zero.
+struct Units {
+    std::int16_t Troops = 0;
+    std::int16_t Tanks = 0;
+
+    constexpr bool IsEmpty() const { return Troops == 0 && Tanks == 0; }
+    constexpr Units operator-() const { return {ClampInt16(-Troops), ClampInt16(-Tanks)}; }
+
+    bool operator==(const Units&) const = default;
+};
+
+/// Adds `more` to `units`, each count stopping at the ends of its range.
+constexpr void Add(Units& units, const Units& more) {
+    Add(units.Troops, more.Troops);
+    Add(units.Tanks, more.Tanks);
+}
+
+/// Both forces together; nothing when a count would not fit its field.
+constexpr std::optional<Units> Sum(const Units& a, const Units& b) {
+    Units sum = a;
+    Add(sum, b);
+    const bool fits = sum.Troops == a.Troops + b.Troops && sum.Tanks == a.Tanks + b.Tanks;
+    return fits ? std::optional(sum) : std::nullopt;
+}
+
+}  // namespace vorlund
