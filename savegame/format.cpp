@@ -7,6 +7,7 @@
 
 #include "savegame/layout.h"
 #include "savegame/windows1252.h"
+#include "state/consistent.h"
 #include "state/text.h"
 #include "state/typed_number.h"
 
@@ -98,8 +99,7 @@ public:
                  std::int16_t high) {
         const auto number = ReadInteger(Line());
         if (!number || *number < low || *number > high) {
-            return Fail(name, whose,
-                        "a whole number from " + std::to_string(low) + " to " + std::to_string(high));
+            return Fail(name, whose, RangeWords(low, high));
         }
         value = static_cast<std::int16_t>(*number);
         return Next();
@@ -143,67 +143,23 @@ private:
     BadFile bad_;
 };
 
-using Finding = std::optional<BadFile>;
+/// Counts the lines before the one that holds a field of the game.
+struct LineCounter {
+    const void* Field;
+    int Line = 1;
 
-/// What is wrong between the lines of territory index `t` and those that say who owns it.
-Finding ExamineTerritory(const GameState& game, int t) {
-    const Territory& territory = game.TerritoryAt(t);
-    const std::string name(World[static_cast<std::size_t>(t)].Name);
-    const int line = TerritoryLine(game.NumPlayers, t);
-    if (territory.Owner != NoOwner && territory.Owner >= game.NumPlayers) {
-        return BadFile{line + 3, "Owner of " + name + " must be a player of this game, or 9 for nobody."};
+    bool Integer(const std::int16_t& value, const char*, const std::string&, std::int16_t, std::int16_t) {
+        return Passes(&value);
     }
-    if (territory.Occupied != (territory.Owner != NoOwner)) {
-        return BadFile{line + 2, name + " must be Occupied when it has an Owner, and only then."};
-    }
-    for (int p = 0; p < game.NumPlayers; ++p) {
-        if (Owns(game, p, t) != (territory.Owner == p)) {
-            return BadFile{PlayerLine(p) + 16 + t,
-                           PlayerWords(p) + "'s Owns and the Owner of " + name + " do not agree."};
-        }
-    }
-    const std::array<bool, LinesPerTerritory> stands{
-        territory.HasDefense,           territory.HasFactory,           false, false,
-        territory.Stationed.Tanks != 0, territory.Stationed.Troops != 0};
-    const auto found = std::find(stands.begin(), stands.end(), true);
-    if (!territory.Occupied && found != stands.end()) {
-        return BadFile{line + static_cast<int>(found - stands.begin()),
-                       name + " belongs to nobody, so nothing can stand in it."};
-    }
-    return std::nullopt;
-}
+    bool Boolean(const bool& value, const char*, const std::string&) { return Passes(&value); }
+    bool Name(const std::string& value, const char*, const std::string&) { return Passes(&value); }
 
-Finding ExaminePlayer(const GameState& game, int p) {
-    const Player& player = game.PlayerAt(p);
-    const bool ownsNothing = std::find(player.Owns.begin(), player.Owns.end(), true) == player.Owns.end();
-    if (player.IsDead == ownsNothing) {
-        return std::nullopt;
+    bool Passes(const void* field) {
+        const bool found = field == Field;
+        Line += found ? 0 : 1;
+        return !found;
     }
-    return BadFile{PlayerLine(p) + 1,
-                   PlayerWords(p) + (ownsNothing ? " owns no territory and must be dead."
-                                                 : " owns territories and must be alive.")};
-}
-
-/// The first thing in which the values, each in its range, do not agree with each other.
-Finding Examine(const GameState& game) {
-    Finding finding;
-    for (int t = 0; t < NumTerritories && !finding; ++t) {
-        finding = ExamineTerritory(game, t);
-    }
-    int dead = 0;
-    for (int p = 0; p < game.NumPlayers && !finding; ++p) {
-        finding = ExaminePlayer(game, p);
-        dead += game.PlayerAt(p).IsDead ? 1 : 0;
-    }
-    const int line = TerritoryLine(game.NumPlayers, NumTerritories);
-    if (!finding && (game.Current().IsDead || game.Current().IsComputer)) {
-        finding = BadFile{line, "CurrentPlayer of the game must be a living human player."};
-    }
-    if (!finding && game.DeadPlayers != dead) {
-        finding = BadFile{line + 1, "DeadPlayers of the game must be " + std::to_string(dead) + "."};
-    }
-    return finding;
-}
+};
 
 }  // namespace
 
@@ -219,8 +175,10 @@ std::variant<GameState, BadFile> ReadGame(const GameState& fresh, std::string_vi
     if (!VisitGame(game, reader)) {
         return reader.Bad();
     }
-    if (const Finding finding = Examine(game)) {
-        return *finding;
+    if (const auto flaw = FirstFlaw(game, AtTurn::LivingHuman)) {
+        LineCounter counter{flaw->Field};
+        VisitGame(game, counter);
+        return BadFile{counter.Line, flaw->What};
     }
     game.GameLoaded = true;
     return game;

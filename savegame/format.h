@@ -30,7 +30,7 @@ std::string WriteGame(const GameState& game);
 
 /// Reads what WriteGame wrote: `fresh`, which is the state as the title screen leaves it, with everything
 /// over it that the file carries, and GameLoaded true. The whole file is examined first: every value's form
-/// and range, that the records agree with each other (Consistent), and that a living human has the turn.
+/// and range, that the records agree with each other, and that a living human has the turn (FirstFlaw).
 /// Bare line feeds, a missing end of the last line and further lines after the last are accepted; bytes
 /// beyond MaxSavedGameBytes are not looked at.
 std::variant<GameState, BadFile> ReadGame(const GameState& fresh, std::string_view bytes);

@@ -16,38 +16,24 @@ namespace vorlund {
 inline constexpr std::int16_t LowestInt16 = std::numeric_limits<std::int16_t>::min();
 inline constexpr std::int16_t HighestInt16 = std::numeric_limits<std::int16_t>::max();
 
-inline constexpr int LinesPerPlayer = 16 + NumTerritories;
-inline constexpr int LinesPerTerritory = 6;
-
-/// The first line of player index `player`.
-constexpr int PlayerLine(int player) {
-    return 2 + LinesPerPlayer * player;
-}
-
-/// The first line of territory index `territory` in a game of `players` players. The territory after the
-/// last one gives the line of CurrentPlayer.
-constexpr int TerritoryLine(int players, int territory) {
-    return PlayerLine(players) + LinesPerTerritory * territory;
-}
-
 /// Totals may be anything: those of computer players lag behind what they own, even below zero.
 template <typename PlayerType, typename Visitor>
 bool VisitPlayer(PlayerType& player, const std::string& whose, Visitor& visitor) {
     return visitor.Integer(player.AttacksLeft, "AttacksLeft", whose, 0, 2) &&
            visitor.Boolean(player.IsDead, "IsDead", whose) &&
            visitor.Integer(player.DebtTurns, "DebtTurns", whose, 0, HighestInt16) &&
-           visitor.Integer(player.EconomyLevel, "EconomyLevel", whose, 0, 3) &&
+           visitor.Integer(player.EconomyLevel, "EconomyLevel", whose, 0, MaxLevel) &&
            visitor.Integer(player.Factories, "Factories", whose, LowestInt16, HighestInt16) &&
            visitor.Boolean(player.FirstTurn, "FirstTurn", whose) &&
            visitor.Integer(player.Money, "Money", whose, LowestInt16, HighestInt16) &&
            visitor.Integer(player.MovesLeft, "MovesLeft", whose, 0, 2) &&
            visitor.Name(player.Name, "Name", whose) &&
-           visitor.Integer(player.NuclearLevel, "NuclearLevel", whose, 0, 3) &&
+           visitor.Integer(player.NuclearLevel, "NuclearLevel", whose, 0, MaxLevel) &&
            visitor.Boolean(player.HasNuke, "HasNuke", whose) &&
            visitor.Integer(player.Oil, "Oil", whose, LowestInt16, HighestInt16) &&
            visitor.Integer(player.Total.Tanks, "Tanks", whose, LowestInt16, HighestInt16) &&
            visitor.Integer(player.Total.Troops, "Troops", whose, LowestInt16, HighestInt16) &&
-           visitor.Integer(player.WarfareLevel, "WarfareLevel", whose, 0, 3) &&
+           visitor.Integer(player.WarfareLevel, "WarfareLevel", whose, 0, MaxLevel) &&
            visitor.Boolean(player.IsComputer, "IsComputer", whose);
 }
 

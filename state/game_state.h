@@ -13,6 +13,7 @@ inline constexpr int NumTerritories = 42;
 inline constexpr int MinPlayers = 2;
 inline constexpr int MaxPlayers = 5;
 inline constexpr int NeighbourSlots = 6;
+inline constexpr std::int16_t MaxLevel = 3;      ///< of an upgrade; the lowest is 0
 inline constexpr std::int16_t NoOwner = 9;       ///< in Territory::Owner: nobody owns it
 inline constexpr std::int16_t NoNeighbour = 99;  ///< in a neighbour slot: the slot is empty
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 
+#include "state/game_state.h"
+
 namespace vorlund {
 
 // All in dollars.
@@ -15,8 +17,8 @@ inline constexpr std::int16_t FactoryPrice = 180;
 inline constexpr std::int16_t DefensePrice = 100;
 
 // Upgrade prices by the level that is reached: 1, 2, 3.
-inline constexpr std::array<std::int16_t, 3> EconomyPrice{150, 300, 450};
-inline constexpr std::array<std::int16_t, 3> WarfarePrice{200, 400, 600};
-inline constexpr std::array<std::int16_t, 3> NuclearPrice{100, 300, 700};
+inline constexpr std::array<std::int16_t, MaxLevel> EconomyPrice{150, 300, 450};
+inline constexpr std::array<std::int16_t, MaxLevel> WarfarePrice{200, 400, 600};
+inline constexpr std::array<std::int16_t, MaxLevel> NuclearPrice{100, 300, 700};
 
 }  // namespace vorlund

@@ -83,21 +83,41 @@ TEST(ClockRandom, IsUniformAndNeverRepeatsOnReseeding) {
     EXPECT_EQ(random.Draw(0), 0);
 }
 
-TEST(Consistent, FindsEachBrokenRecord) {
+TEST(FirstFlaw, NamesEachBrokenRecord) {
     const std::string land = "4 Anna 1/0; 5 Ben 0/0; ";
-    EXPECT_FALSE(Consistent(NewGame(2, "4 Anna 1/0")));
-    for (const std::string flaw :
-         {"", "9 Cleo 0/0", "9 Anna -1/0", "9 Anna 0/-1", "Anna NuclearLevel 4", "Anna IsDead 1"}) {
-        EXPECT_EQ(Consistent(NewGame(2, land + flaw)), flaw.empty()) << flaw;
+    const auto flawOf = [](const GameState& game) { return FirstFlaw(game).value_or(Flaw{}).What; };
+    const std::vector<std::pair<std::string, std::string>> worlds{
+        {land, ""},
+        {"4 Anna 1/0", "Player 2 owns no territory and must be dead."},
+        {land + "9 Cleo 0/0", "Owner of Mexico must be a player of this game, or 9 for nobody."},
+        {land + "9 Anna -1/0", "Troops of Mexico must be a whole number from 0 to 32767."},
+        {land + "9 Anna 0/-1", "Tanks of Mexico must be a whole number from 0 to 32767."},
+        {land + "Ben NuclearLevel 4", "NuclearLevel of Player 2 must be a whole number from 0 to 3."},
+        {land + "Anna WarfareLevel -1", "WarfareLevel of Player 1 must be a whole number from 0 to 3."},
+        {land + "Anna IsDead 1", "Player 1 owns territories and must be alive."},
+    };
+    for (const auto& [world, flaw] : worlds) {
+        EXPECT_EQ(flawOf(NewGame(2, world)), flaw);
     }
-    std::array<GameState, 5> games;
+    std::array<GameState, 6> games;
     games.fill(NewGame(2, land));
     games[0].CurrentPlayer = 2;
-    games[1].Players[1].Owns[3] = true;
+    games[1].Players[4].Owns[3] = true;
     games[2].Territories[9].Occupied = true;
     games[3].Territories[9].Stationed.Tanks = 1;
     games[4].DeadPlayers = 1;
-    EXPECT_TRUE(std::none_of(games.begin(), games.end(), Consistent));
+    games[5].NumPlayers = 6;
+    std::string flaws;
+    for (const GameState& game : games) {
+        flaws += flawOf(game) + "|";
+    }
+    EXPECT_EQ(flaws,
+              "CurrentPlayer of the game must be a whole number from 0 to 1.|"
+              "Player 5's Owns and the Owner of Quebec Territory do not agree.|"
+              "Central America must be Occupied when it has an Owner, and only then.|"
+              "Central America belongs to nobody, so nothing can stand in it.|"
+              "DeadPlayers of the game must be 0.|"
+              "NumPlayers of the game must be a whole number from 2 to 5.|");
 }
 
 }  // namespace
