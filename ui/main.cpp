@@ -22,6 +22,7 @@ int main(int, char** arguments) {
     std::array<char*, 2> name{arguments[0], nullptr};
     const QApplication application(count, name.data());
     QApplication::setApplicationName(QStringLiteral("vorlund"));
+    QApplication::setApplicationVersion(QStringLiteral(VORLUND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
     QApplication::setQuitOnLastWindowClosed(false);
 
