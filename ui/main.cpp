@@ -23,6 +23,7 @@ int main(int, char** arguments) {
     vorlund::QuietenSoundServers();
     const QApplication application(count, name.data());
     QApplication::setApplicationName(QStringLiteral("vorlund"));
+    QApplication::setApplicationVersion(QStringLiteral(VORLUND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
     QApplication::setQuitOnLastWindowClosed(false);
 
