@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "state/world.h"
 #include "turn/turn_cycle.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/game_navigation.h"
@@ -43,11 +44,11 @@ QString Indexed(const char* name, int index) {
 }
 
 /// The width that the count of territory index `t` can have without running into a neighbour's.
-int RoomForCount(const GameState& game, int t) {
+int RoomForCount(int t) {
     constexpr int plateHeight = 12;
-    const Territory& territory = game.TerritoryAt(t);
+    const WorldEntry& territory = World[static_cast<std::size_t>(t)];
     int room = CountWidth;
-    for (const Territory& other : game.Territories) {
+    for (const WorldEntry& other : World) {
         if (&other != &territory && std::abs(other.MapY - territory.MapY) < plateHeight) {
             room = std::min(room, std::abs(other.MapX - territory.MapX));
         }
@@ -96,7 +97,7 @@ void frm3::AddMarkers() {
     for (int t = 0; t < NumTerritories; ++t) {
         Marker& marker = markers_[static_cast<std::size_t>(t)];
         marker.lblCntry = new CountLabel(this, Indexed("lblCntry", t), QRect(0, 0, CountWidth, 17));
-        marker.lblCntry->SetRoom(RoomForCount(program_.game(), t));
+        marker.lblCntry->SetRoom(RoomForCount(t));
         marker.imgCntry->hide();
         marker.imgExtra->hide();
         marker.lblCntry->hide();
@@ -137,7 +138,7 @@ void frm3::RefreshMap() {
 void frm3::RefreshLand() {
     OwnerMap::Owners owners{};
     for (int t = 0; t < NumTerritories; ++t) {
-        const Territory& territory = program_.game().TerritoryAt(t);
+        const Territory& territory = game_.TerritoryAt(t);
         owners[static_cast<std::size_t>(t)] = territory.Occupied ? territory.Owner : OwnerMap::Nobody;
     }
     update(land_.Show(owners));
