@@ -15,7 +15,7 @@ namespace {
 const QSize Board(750, 525);
 
 struct Land {
-    explicit Land(qreal ratio = 1) : Seen(Board * ratio, QImage::Format_RGB32) {
+    explicit Land(qreal ratio = 1) : Seen((QSizeF(Board) * ratio).toSize(), QImage::Format_RGB32) {
         Seen.setDevicePixelRatio(ratio);
         Seen.fill(Qt::black);
     }
@@ -76,7 +76,7 @@ TEST(Land, OwnersAreToldApartByEveryEye) {
 
 TEST(Land, OnlyWhatChangesIsPaintedAnewAndAsIfAllWere) {
     std::mt19937 chance(7);
-    for (const qreal ratio : {1.0, 1.25, 1.5, 2.0, 2.5}) {
+    for (const qreal ratio : {1.0, 1.25, 1.5, 1.875, 2.0}) {
         Land land(ratio);
         OwnerMap::Owners owners = All(OwnerMap::Nobody);
         land.Show(owners);

@@ -22,16 +22,6 @@ constexpr int Far = 255;  // a distance of EdgeEnd or more
 
 constexpr int ManyTerritories = 6;  // as many are painted no quicker one by one than all at once
 
-/// The smallest rectangle round `rect` whose corners are whole device pixels at every quarter of a ratio.
-QRect Aligned(const QRectF& rect) {
-    constexpr int step = 4;
-    const QRect whole = rect.toAlignedRect();
-    const int left = whole.left() / step * step;
-    const int top = whole.top() / step * step;
-    return {left, top, (whole.right() - left) / step * step + step,
-            (whole.bottom() - top) / step * step + step};
-}
-
 /// `share` of `one`, the rest of `other`.
 QRgb Mixed(QRgb one, QRgb other, qreal share) {
     const auto part = [&](int (*of)(QRgb)) {
@@ -48,6 +38,11 @@ qreal SquaredDistance(QPointF place, QPointF from, QPointF to) {
     return QPointF::dotProduct(away, away);
 }
 
+/// What a border within `rect` reaches.
+QRect Around(const QRectF& rect) {
+    return rect.adjusted(-EdgeEnd, -EdgeEnd, EdgeEnd, EdgeEnd).toAlignedRect();
+}
+
 }  // namespace
 
 OwnerMap::OwnerMap(const Picture& picture, const TerritoryMap& territories)
@@ -57,18 +52,19 @@ OwnerMap::OwnerMap(const Picture& picture, const TerritoryMap& territories)
         std::transform(line.Territories.begin(), line.Territories.end(), border.Sides.begin(),
                        [](int number) { return static_cast<std::size_t>(number - 1); });
         border.Line = line.Points;
-        border.Box = Aligned(line.Points.boundingRect().adjusted(-EdgeEnd, -EdgeEnd, EdgeEnd, EdgeEnd));
+        border.Box = Around(line.Points.boundingRect());
         borders_.push_back(std::move(border));
     }
     owners_.fill(Nobody);
+    QRect land;
     for (std::size_t t = 0; t < owners_.size(); ++t) {
-        box_ |= TouchedBy(t);
+        land |= TouchedBy(t);
     }
+    size_ = QSize(land.right() + 1, land.bottom() + 1);
 }
 
 QRect OwnerMap::TouchedBy(std::size_t territory) const {
-    const QRectF land = territories_.Outline(static_cast<int>(territory)).controlPointRect();
-    return Aligned(land.adjusted(-EdgeEnd, -EdgeEnd, EdgeEnd, EdgeEnd));
+    return Around(territories_.Outline(static_cast<int>(territory)).controlPointRect());
 }
 
 QRegion OwnerMap::Show(const Owners& owners) {
@@ -84,12 +80,12 @@ QRegion OwnerMap::Show(const Owners& owners) {
 }
 
 void OwnerMap::Paint(QPainter& painter) {
-    const qreal ratio = painter.device()->devicePixelRatioF();
+    const qreal ratio = painter.deviceTransform().m11();
     if (ratio_ != ratio) {
         Begin(ratio);
-        Compose(box_);
+        Compose(QRect(QPoint(), size_));
     } else if (stale_.count() >= ManyTerritories) {
-        Compose(box_);
+        Compose(QRect(QPoint(), size_));
     } else {
         for (std::size_t t = 0; t < owners_.size(); ++t) {
             if (stale_.test(t)) {
@@ -98,24 +94,22 @@ void OwnerMap::Paint(QPainter& painter) {
         }
     }
     stale_.reset();
-    painter.drawImage(box_.topLeft(), composed_);
+    painter.drawImage(0, 0, composed_);
 }
 
 QRect OwnerMap::Pixels(const QRect& part) const {
-    const QRect inBox = part.translated(-box_.topLeft());
-    return QRectF(QPointF(inBox.topLeft()) * ratio_, QSizeF(inBox.size()) * ratio_).toAlignedRect();
+    return QRectF(QPointF(part.topLeft()) * ratio_, QSizeF(part.size()) * ratio_).toAlignedRect();
 }
 
 void OwnerMap::Begin(qreal ratio) {
     ratio_ = ratio;
-    const QSize size = Pixels(box_).size();
+    const QSize size = Pixels(QRect(QPoint(), size_)).size();
     composed_ = QImage(size, QImage::Format_RGB32);
     composed_.setDevicePixelRatio(ratio);
     numbers_ = QImage(size, QImage::Format_Grayscale8);
     numbers_.fill(0);
     QPainter painter(&numbers_);
     painter.scale(ratio, ratio);
-    painter.translate(-box_.topLeft());
     for (int t = 0; t < NumTerritories; ++t) {
         const int number = t + 1;
         painter.fillPath(territories_.Outline(t), QColor(number, number, number));
@@ -130,14 +124,11 @@ void OwnerMap::Measure(Border& border) const {
     const auto square = [&](int x, int y) -> qreal& {
         return squares[static_cast<std::size_t>((y - all.top()) * all.width() + x - all.left())];
     };
-    const auto onBoard = [&](int x, int y) {
-        return QPointF(x + 0.5, y + 0.5) / ratio_ + QPointF(box_.topLeft());
-    };
+    const auto onBoard = [&](int x, int y) { return QPointF(x + 0.5, y + 0.5) / ratio_; };
     for (qsizetype i = 1; i < border.Line.size(); ++i) {
         const QPointF from = border.Line[i - 1];
         const QPointF to = border.Line[i];
-        const QRectF around = QRectF(from, to).normalized().adjusted(-EdgeEnd, -EdgeEnd, EdgeEnd, EdgeEnd);
-        const QRect reached = Pixels(around.toAlignedRect()).intersected(all);
+        const QRect reached = Pixels(Around(QRectF(from, to).normalized())).intersected(all);
         for (int y = reached.top(); y <= reached.bottom(); ++y) {
             for (int x = reached.left(); x <= reached.right(); ++x) {
                 square(x, y) = std::min(square(x, y), SquaredDistance(onBoard(x, y), from, to));
@@ -171,17 +162,17 @@ void OwnerMap::MixColours() {
 }
 
 void OwnerMap::Compose(const QRect& part) {
-    LayFronts(part);
-    FillLand(part);
-    QPainter painter(&composed_);
-    painter.translate(-box_.topLeft());
-    painter.setClipRect(part);
-    painter.drawPixmap(0, 0, picture_.At(ratio_));
+    const QRect pixels = Pixels(part).intersected(composed_.rect());
+    LayFronts(part, pixels);
+    FillLand(pixels);
+    // The same pixels, to be counted as such
+    QImage canvas(composed_.bits(), composed_.width(), composed_.height(), composed_.bytesPerLine(),
+                  composed_.format());
+    QPainter(&canvas).drawPixmap(pixels, picture_.At(ratio_), pixels);
 }
 
 /// Leaves in every pixel of the part its distance from the nearest front.
-void OwnerMap::LayFronts(const QRect& part) {
-    const QRect pixels = Pixels(part);
+void OwnerMap::LayFronts(const QRect& part, const QRect& pixels) {
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(composed_.scanLine(y));
         std::fill(line + pixels.left(), line + pixels.right() + 1, static_cast<QRgb>(Far));
@@ -200,8 +191,7 @@ void OwnerMap::LayFronts(const QRect& part) {
 }
 
 /// Turns the distances into colours.
-void OwnerMap::FillLand(const QRect& part) {
-    const QRect pixels = Pixels(part);
+void OwnerMap::FillLand(const QRect& pixels) {
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         const uchar* number = numbers_.constScanLine(y) + pixels.left();
         auto* pixel = reinterpret_cast<QRgb*>(composed_.scanLine(y)) + pixels.left();

@@ -19,7 +19,7 @@ namespace vorlund {
 
 /// The land of the board's map in the colours of those who hold it, with the borders between them. The map's
 /// picture lets through on land what lies under it; here that is painted and laid under the picture, once for
-/// a device pixel ratio and again only where an owner changes.
+/// a scale and again only where an owner changes.
 class OwnerMap {
 public:
     /// A player's index for every territory, or Nobody.
@@ -32,11 +32,12 @@ public:
     /// Has the land shown with these owners from the next Paint on. Returns what of the board has changed.
     QRegion Show(const Owners& owners);
 
-    /// Paints all land, and the sea around it, on a board whose upper left corner is the painter's origin.
+    /// Paints all land, and the sea around it, on a board whose upper left corner is the painter's origin and
+    /// whose pixels are the painter's units, at whatever scale.
     void Paint(QPainter& painter);
 
 private:
-    /// A pixel of the box that lies near a border, and how near, as a share of the furthest that matters.
+    /// A pixel that lies near a border, and how near, as a share of the furthest that matters.
     struct Beside {
         std::int16_t X;
         std::int16_t Y;
@@ -46,7 +47,7 @@ private:
     struct Border {
         std::array<std::size_t, 2> Sides;  // territory indices
         QPolygonF Line;                    // in pixels of the board
-        QRect Box;                         // of all that lies beside it, like that
+        QRect Box;                         // round all that lies beside it
         std::vector<Beside> Pixels;
     };
 
@@ -56,20 +57,20 @@ private:
     void Measure(Border& border) const;
     void MixColours();
     void Compose(const QRect& part);
-    void LayFronts(const QRect& part);
-    void FillLand(const QRect& part);
+    void LayFronts(const QRect& part, const QRect& pixels);
+    void FillLand(const QRect& pixels);
 
     const Picture& picture_;
     const TerritoryMap& territories_;
     std::vector<Border> borders_;
-    QRect box_;  // of all land, in pixels of the board
+    QSize size_;  // of the part of the board, from its upper left corner, that holds all land
     Owners owners_{};
     std::bitset<NumTerritories> stale_;
-    qreal ratio_ = 0;
-    QImage numbers_;   // of the territory at each pixel of the box, 0 at sea
-    QImage composed_;  // the box as it is seen
-    std::array<std::array<QRgb, 256>, MaxPlayers + 1>
-        colours_{};  // of an owner's land by its distance from a front
+    qreal ratio_ = 0;  // device pixels to a pixel of the board
+    QImage numbers_;   // of the territory at each device pixel, 0 at sea
+    QImage composed_;  // that part as it is seen
+    // Of an owner's land by its distance from a front
+    std::array<std::array<QRgb, 256>, MaxPlayers + 1> colours_{};
 };
 
 }  // namespace vorlund
