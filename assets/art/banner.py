@@ -1,5 +1,5 @@
-"""The banner that is laid over the board when the game is over. The conquered world still
-shows through its rim; the middle is dark and holds a globe in laurel."""
+"""The banner that is laid over the board when the game is over and hides what lies under it: a
+dark sheet with a globe in laurel."""
 import math
 
 import lettering
@@ -7,8 +7,8 @@ from earth import Globe
 from ink import BRASS, CREAM, around, circle_path, fill, number, picture, polyline, ring, stroke
 
 WIDTH, HEIGHT = 692, 381
-CX, CY = 346, 136
-NIGHT = '#0a1420'
+CX, CY, ROOM = 346, 136, 119
+NIGHT, RIM = '#0a1420', '#060c14'
 
 
 def plate():
@@ -20,10 +20,9 @@ def plate():
                          (x0 + notch, y1 - notch), (x0, y1 - notch), (x0, y0 + notch), (x0 + notch, y0 + notch)], True)
     out = ['<radialGradient id="veil" gradientUnits="userSpaceOnUse" cx="346" cy="190" r="400" '
            'gradientTransform="translate(0 76) scale(1 .6)">'
-           '<stop offset="0" stop-color="#14283b" stop-opacity=".985"/>'
-           '<stop offset=".55" stop-color="#0e1c2b" stop-opacity=".97"/>'
-           '<stop offset="1" stop-color="%s" stop-opacity=".86"/></radialGradient>' % NIGHT,
-           fill(notched(4, 14), 'url(#veil)'), stroke(notched(4, 14), '#0b1118', 3), stroke(notched(4, 14), BRASS, 1.5),
+           '<stop offset="0" stop-color="#16304a"/><stop offset=".55" stop-color="#0e1c2b"/>'
+           '<stop offset="1" stop-color="%s"/></radialGradient>' % NIGHT,
+           '<rect width="%d" height="%d" fill="%s"/>' % (WIDTH, HEIGHT, RIM), fill(notched(4, 14), 'url(#veil)'), stroke(notched(4, 14), '#0b1118', 3), stroke(notched(4, 14), BRASS, 1.5),
            stroke(notched(11, 14), BRASS, .7, .8)]
     for x in (10.5, WIDTH - 10.5):
         for y in (10.5, HEIGHT - 10.5):
@@ -35,7 +34,10 @@ def rays():
     d = ''
     for i in range(72):
         a = 5 * i
-        d += polyline([around(CX, CY, 112 + (i % 2) * 5, a), around(CX, CY, (168, 142, 152, 142)[i % 4], a)])
+        room = ROOM / max(abs(math.cos(math.radians(a))), .01)      # to the rule above and the letters below
+        first, last = 112 + (i % 2) * 5, min((168, 142, 152, 142)[i % 4], room)
+        if last > first + 5:
+            d += polyline([around(CX, CY, first, a), around(CX, CY, last, a)])
     return ['<radialGradient id="ray" gradientUnits="userSpaceOnUse" cx="%d" cy="%d" r="168">'
             '<stop offset=".6" stop-color="%s" stop-opacity=".34"/><stop offset="1" stop-color="%s" stop-opacity="0"/>'
             '</radialGradient>' % (CX, CY, BRASS, BRASS), stroke(d, 'url(#ray)', .8)]

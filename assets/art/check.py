@@ -28,6 +28,11 @@ def luminance(colour):
     return .2126 * parts[0] + .7152 * parts[1] + .0722 * parts[2]
 
 
+def colour_contrast(one, other):
+    darker, lighter = sorted((luminance(one), luminance(other)))
+    return (lighter + .05) / (darker + .05)
+
+
 def worst_contrast(image, text):
     """Of a text colour against every pixel of the image."""
     behind = max(luminance(c) for _, c in image.convert('RGB').getcolors(1 << 24))
@@ -69,9 +74,11 @@ def check(faults):
             most = max(image.getcolors())[1]
             need('#%02X%02X%02X' % most == colour, 'marker%d is mostly %s' % (index, most))
             # The emblem as a stencil: whatever stands off the colour by its lightness alone.
-            inside = image.crop(tuple(scale * v for v in (1, 1, 9, 9))).getdata()
-            greys.append([abs(luminance(c) - luminance(most)) > .04 for c in inside])
+            inside = image.crop(tuple(scale * v for v in (1, 1, 9, 9)))
+            greys.append([abs(luminance(c) - luminance(most)) > .04 for c in inside.getdata()])
             need(any(greys[-1]), 'marker%d has no emblem in grey' % index)
+            emblem = max(colour_contrast(c, most) for _, c in inside.getcolors())
+            need(emblem >= 4.5, 'the emblem of marker%d: contrast only %.2f' % (index, emblem))
         for a in range(5):
             for b in range(a):
                 share = sum(p != q for p, q in zip(greys[a], greys[b])) / len(greys[a])
@@ -81,6 +88,8 @@ def check(faults):
         edge = frame.copy()
         edge.paste((0, 0, 0), (scale, scale, frame.width - scale, frame.height - scale))
         need(ImageChops.lighter(edge, edge).getbbox() is None, 'the title picture touches the edge of its frame')
+        banner = load('gameover', scale).convert('RGBA').getchannel('A')
+        need(banner.getextrema() == (255, 255), 'what lies under the game-over banner is seen')
     for size in ICON_SIZES:
         for icon in ('vorlund', SAVED_GAME):
             image = Image.open(ICONS / ('%s-%d.png' % (icon, size)))

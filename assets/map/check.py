@@ -1,6 +1,4 @@
 """Proofs about the printed map that need its geometry or its pixels. Each returns a list of faults."""
-import math
-
 import numpy as np
 from shapely.geometry import LineString, Point, box
 from shapely.ops import unary_union
@@ -8,15 +6,17 @@ from shapely.ops import unary_union
 import drawing
 import labels
 import looks
+import picture
+import sight
 from world import PAIRS, WORLD
 
-# The longest count, 999/99, is 27.5 pixels wide and stands in a line of 17 pixels; a pixel more for its rim. The
-# height allows for letters at the top of their line as well as in its middle.
+# A count stands on a plate.
 COUNT = (-15, 13, 15, 24.5)
 MARKER = (-10, 0, 10, 10)           # with the icon beside it
 ROUTE_SEEN = 4.0                    # pixels of every sea route that nothing may cover
 ON_OTHERS = .35                     # share of a badge that may lie on the land of others
 POINTER = 4.5                       # pixels between the edge of a badge and its land
+LIKE = 20                           # in CIE Lab: colours that are nearer are taken for one another
 
 
 def around(entry, sides):
@@ -65,6 +65,17 @@ def wrong_borders(land, warp):
     return faults + ['nothing joins %d and %d' % pair for pair in PAIRS - drawn - joined]
 
 
+def wrong_lines(land, arcs):
+    """Border lines that are not the whole border of their two territories."""
+    faults = []
+    for (a, b), lines in arcs.items():
+        if a:
+            shared, drawn = land[a].intersection(land[b]).length, sum(LineString(line).length for line in lines)
+            if abs(shared - drawn) > .05 * shared:
+                faults.append('the lines of %d and %d are %.1f long, their border %.1f' % (a, b, drawn, shared))
+    return faults
+
+
 def covered_signs():
     """Badges and derricks that would lie under the board's pictures or meet each other."""
     signs = [('the number %d' % t, shape) for t, shape in badges().items()]
@@ -106,28 +117,38 @@ def hidden_routes(land, warp):
     return faults
 
 
-def luminance(pixels):
-    share = pixels / 255
-    linear = np.where(share <= .04045, share / 12.92, ((share + .055) / 1.055) ** 2.4)
-    return linear @ [.2126, .7152, .0722]
-
-
-def pale_ground(image):
-    """Counts whose white letters would not stand out: 4.5 to 1 over the middle of their ground, 3 to 1 over
-    nearly all of it."""
+def land_and_sea(image, land):
+    """What is painted under the map is seen on land and nowhere else."""
+    alpha = np.array(image)[..., 3] / 255
     scale = image.width // 750
-    bright = luminance(np.array(image, float))
+    coverage = picture.rasterise(drawing.coverage(land), scale)[..., 3] / 255
     faults = []
-    for t, entry in WORLD.items():
-        left, top, right, bottom = (math.floor(side * scale) for side in around(entry, COUNT).bounds)
-        contrast = 1.05 / (bright[top:bottom, left:right] + .05)
-        if np.median(contrast) < 4.5 or np.percentile(contrast, 4) < 3:
-            faults.append('the count of %d: contrast %.2f, at the palest %.2f'
-                          % (t, np.median(contrast), np.percentile(contrast, 4)))
+    if alpha[coverage == 0].min() < 1:
+        faults.append('what lies under the sea is seen')
+    if np.median(alpha[coverage == 1]) > .3:
+        faults.append('the land hides its holder by %.2f' % np.median(alpha[coverage == 1]))
     return faults
 
 
-def run(land, warp, image):
+def like_owners(image, land):
+    """Owners whose land looks alike, as printed, to one kind of eye."""
+    scale = image.width // 750
+    on_land = picture.rasterise(drawing.coverage(land), scale)[..., 3] == 255
+    over = np.array(image, float)[on_land]
+    alpha = over[:, 3:] / 255
+    grounds = np.array([np.median(over[:, :3] * alpha + tint * (1 - alpha), axis=0) for tint in sight.owner_tints()])
+    faults = []
+    for name, eye in sight.EYES.items():
+        colours = sight.lab(sight.seen(grounds, eye))
+        for a in range(len(colours)):
+            for b in range(a):
+                apart = np.linalg.norm(colours[a] - colours[b])
+                if apart < LIKE:
+                    faults.append('to %s eyes the land of %d and %d differs by %.1f only' % (name, b, a, apart))
+    return faults
+
+
+def run(land, arcs, warp, image):
     """Every fault found, in words; image is the printed map."""
-    return (folds(warp) + misplaced_land(land) + wrong_borders(land, warp) + covered_signs()
-            + lost_signs(land) + hidden_routes(land, warp) + pale_ground(image))
+    return (folds(warp) + misplaced_land(land) + wrong_borders(land, warp) + wrong_lines(land, arcs) + covered_signs()
+            + lost_signs(land) + hidden_routes(land, warp) + land_and_sea(image, land) + like_owners(image, land))

@@ -5,6 +5,7 @@ from shapely.geometry import Point
 from shapely.ops import nearest_points
 
 import labels
+import legend
 import looks
 import strip
 from geography import ROUTE, ROUTE_ROUND
@@ -19,22 +20,23 @@ def document(parts):
             % '\n'.join(parts))
 
 
-def ground(land, arcs, lakes, rivers):
-    """The land alone: every territory in its colour with a lighter band along its edge, and fresh water."""
-    tints = looks.tints(arcs)
+def coverage(land):
+    """Where there is land. The stroke closes the seam between neighbours' soft edges."""
+    return document(['<path d="%s" stroke="#000" stroke-width=".5"/>' % looks.closed_path(rings_of(shape))
+                     for shape in land.values()])
+
+
+def land_marks(land, lakes, rivers):
+    """What is printed on the land whoever holds it: a lighter band along each territory's edge, fresh water."""
     out = ['<defs>']
     for t, shape in land.items():
         out.append('<path id="t%d" d="%s"/><clipPath id="c%d"><use href="#t%d"/></clipPath>'
                    % (t, looks.closed_path(rings_of(shape)), t, t))
     out.append('<clipPath id="land">%s</clipPath></defs>' % ''.join('<use href="#t%d"/>' % t for t in land))
     for t in land:
-        colour = looks.hexadecimal(tints[t])
-        lighter = looks.hexadecimal(round(v + (255 - v) * .30) for v in tints[t])
-        # The stroke in the land's own colour closes the seam between neighbours' soft edges.
-        out.append('<use href="#t%d" fill="%s" stroke="%s" stroke-width=".5"/>' % (t, colour, colour))
-        for width, opacity in ((5.2, .16), (3.4, .28)):
-            out.append('<use href="#t%d" fill="none" stroke="%s" stroke-opacity="%g" stroke-width="%g" '
-                       'stroke-linejoin="round" clip-path="url(#c%d)"/>' % (t, lighter, opacity, width, t))
+        for width, opacity in ((5.2, .05), (3.4, .08)):
+            out.append('<use href="#t%d" fill="none" stroke="#fff" stroke-opacity="%g" stroke-width="%g" '
+                       'stroke-linejoin="round" clip-path="url(#c%d)"/>' % (t, opacity, width, t))
     out.append('<path d="%s" fill="none" stroke="%s" stroke-width=".55" stroke-opacity=".55" '
                'stroke-linejoin="round" clip-path="url(#land)"/>'
                % (''.join(looks.open_path(river) for river in rivers), WATER))
@@ -158,7 +160,7 @@ def ink(land, arcs, warp):
              'stroke-linecap="round"/>'
     out = ['<g clip-path="url(#map)"><clipPath id="map"><rect width="750" height="428"/></clipPath>',
            stroke % (groups[False], '#0a1420', .5, 1.3), stroke % (groups[False], '#0a1420', .75, .55),
-           stroke % (groups[True], looks.INK, 1, 1.15)]
+           stroke % (groups[True], looks.INK, .8, .8)]
     for x, y in meeting_points(arcs):
         out.append('<circle cx="%.2f" cy="%.2f" r="1.7" fill="%s"/>' % (x, y, looks.INK))
     out += frame()
@@ -166,6 +168,7 @@ def ink(land, arcs, warp):
     out += round_signs()
     out.append(looks.compass(62, 362, 30))
     out += cartouche(652, 384)
+    out += legend.draw()
     out += [looks.derrick(x, y) for x, y in labels.DERRICKS.values()]
     out += [callout(t, land, x, y) for t, (x, y) in labels.NUMBERS.items()]
     out += [looks.badge(x, y, t) for t, (x, y) in labels.NUMBERS.items()]

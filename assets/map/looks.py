@@ -1,55 +1,9 @@
 """Colours and small drawings of the map, as SVG."""
-import math
 
 INK, CREAM, BRASS = '#12161b', '#f4ead0', '#c9ac6b'
 ROUTE_COLOUR = '#f6e7b4'
 SANS = 'font-family="Liberation Sans"'
 SERIF = 'font-family="Liberation Serif"'
-
-# Territories and their shades as OKLCH lightness, chroma and hue; dark enough for white counts.
-TINTS = [
-    (range(1, 12), [(.535, .058, 92), (.485, .062, 72), (.455, .05, 112), (.51, .05, 58)]),
-    (range(12, 16), [(.53, .06, 142), (.465, .058, 152), (.50, .06, 124)]),
-    (range(16, 23), [(.53, .055, 312), (.465, .06, 295), (.50, .055, 338), (.44, .05, 322)]),
-    (range(23, 28), [(.53, .07, 55), (.465, .07, 40), (.50, .075, 68)]),
-    (range(28, 39), [(.53, .048, 176), (.455, .05, 196), (.49, .055, 160), (.52, .042, 208)]),
-    (range(39, 43), [(.52, .07, 20), (.465, .07, 8), (.495, .06, 34)]),
-]
-
-
-def oklch(lightness, chroma, hue):
-    """The sRGB colour, 0 to 255 each."""
-    a, b = chroma * math.cos(math.radians(hue)), chroma * math.sin(math.radians(hue))
-    l, m, s = ((lightness + .3963377774 * a + .2158037573 * b) ** 3,
-               (lightness - .1055613458 * a - .0638541728 * b) ** 3,
-               (lightness - .0894841775 * a - 1.2914855480 * b) ** 3)
-    linear = (4.0767416621 * l - 3.3077115913 * m + .2309699292 * s,
-              -1.2684380046 * l + 2.6097574011 * m - .3413193965 * s,
-              -.0041960863 * l - .7034186147 * m + 1.7076147010 * s)
-    curved = (12.92 * v if v <= .0031308 else 1.055 * v ** (1 / 2.4) - .055 for v in linear)
-    return tuple(round(min(max(v, 0), 1) * 255) for v in curved)
-
-
-def tints(arcs):
-    """Territory number -> colour; territories of a continent that touch differ."""
-    touching = {}
-    for a, b in arcs:
-        touching.setdefault(a, set()).add(b)
-        touching.setdefault(b, set()).add(a)
-    out = {}
-    for territories, shades in TINTS:
-        picked = {}
-        for t in sorted(territories, key=lambda t: -len(touching[t] & set(territories))):
-            used = {picked.get(other) for other in touching[t]}
-            counts = list(picked.values())
-            free = [i for i in range(len(shades)) if i not in used] or range(len(shades))
-            picked[t] = min(free, key=lambda i: (counts.count(i), i))
-        out.update({t: oklch(*shades[i]) for t, i in picked.items()})
-    return out
-
-
-def hexadecimal(colour):
-    return '#%02x%02x%02x' % tuple(colour)
 
 
 def open_path(line):
@@ -76,6 +30,12 @@ def badge(x, y, number):
     return ('<rect x="%g" y="%g" width="%g" height="%g" rx="2.2" fill="%s" stroke="%s"/>'
             % (x - width / 2 + .5, y - height / 2 + .5, width - 1, height - 1, CREAM, INK)
             + text(x, y + 3.1, number, 9, INK, more='font-weight="bold" text-anchor="middle"'))
+
+
+def count(x, y, words):
+    """Troops and tanks as the program writes them."""
+    return ('<rect x="%g" y="%g" width="24" height="11" rx="3" fill="#080e1a" fill-opacity=".8"/>' % (x - 12, y - 5.5)
+            + text(x, y + 3.2, words, 9, '#fff', more='text-anchor="middle"'))
 
 
 DERRICK = (8.0, 10.6)

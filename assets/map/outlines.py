@@ -165,11 +165,16 @@ def rings_of(shape):
             for ring in [part.exterior, *part.interiors]]
 
 
-def write(land, path):
-    """One ring a line: territory number, count of points, then x and y of each in tenths of a pixel."""
-    lines = []
-    for t in sorted(land):
-        for ring in sorted(rings_of(land[t]), key=len, reverse=True):
-            numbers = [round(value * 10) for point in ring for value in point]
-            lines.append(' '.join(map(str, [t, len(ring), *numbers])))
-    path.write_text('\n'.join(lines) + '\n')
+def write(lines, path):
+    """Each line is (numbers, points): the numbers, how many points, then x and y of each in tenths of a pixel."""
+    rows = [[*numbers, len(points), *(round(value * 10) for point in points for value in point)]
+            for numbers, points in lines]
+    path.write_text(''.join(' '.join(map(str, row)) + '\n' for row in rows))
+
+
+def write_outlines(land, path):
+    write([([t], ring) for t in sorted(land) for ring in sorted(rings_of(land[t]), key=len, reverse=True)], path)
+
+
+def write_borders(arcs, path):
+    write([(pair, line) for pair in sorted(arcs) if pair[0] for line in arcs[pair]], path)

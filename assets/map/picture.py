@@ -7,10 +7,11 @@ import numpy as np
 from PIL import Image
 
 import drawing
+import legend
 import relief
-import strip
 
 PICTURES = pathlib.Path(__file__).parents[1] / 'pictures'
+LIGHT = .75     # of the relief's light, against its shadow
 
 
 def rasterise(svg, scale):
@@ -19,9 +20,21 @@ def rasterise(svg, scale):
     return np.array(Image.open(io.BytesIO(png.stdout)).convert('RGBA'), float)
 
 
+def premultiplied(layer):
+    """RGBA values from 0 to 255 as shares, the colours multiplied by the coverage."""
+    out = layer / 255
+    out[..., :3] *= out[..., 3:]
+    return out
+
+
 def over(below, layer):
-    alpha = layer[..., 3:] / 255
-    return below * (1 - alpha) + layer[..., :3] * alpha
+    """`layer` upon `below`, both premultiplied."""
+    return below * (1 - layer[..., 3:]) + layer
+
+
+def tinted(colour, share):
+    """A flat premultiplied layer that covers by `share`."""
+    return np.dstack([share * part for part in (*colour, 1)])
 
 
 def at_scale(array, scale):
@@ -33,33 +46,44 @@ def at_scale(array, scale):
 
 def lay_pictures(canvas, scale):
     """Puts the program's markers and icons into the legend."""
-    for name, left in strip.PICTURES:
+    for name, left, middle in legend.PICTURES:
         layer = np.array(Image.open(PICTURES / (name + ('.png', '@2x.png')[scale - 1])).convert('RGBA'), float)
-        rows = slice((strip.MIDDLE - 5) * scale, (strip.MIDDLE + 5) * scale)
+        rows = slice((middle - 5) * scale, (middle + 5) * scale)
         columns = slice(left * scale, (left + 10) * scale)
-        canvas[rows, columns] = over(canvas[rows, columns], layer)
+        canvas[rows, columns] = over(canvas[rows, columns], premultiplied(layer))
 
 
 class Printer:
-    """The layers of one map, to be printed at several scales."""
+    """The layers of one map, to be printed at several scales. Land lets through what is painted under it: that is
+    its holder's colour, which only the program knows. Sea, ink and signs hide it."""
 
     def __init__(self, land, arcs, lakes, rivers, warp):
-        self._ground = drawing.ground(land, arcs, lakes, rivers)
+        self._coverage = drawing.coverage(land)
+        self._land_marks = drawing.land_marks(land, lakes, rivers)
         self._sea_names = drawing.sea(warp)
         self._ink = drawing.ink(land, arcs, warp)
-        coverage = rasterise(self._ground, relief.GRID)[:relief.SHAPE[0], :, 3] / 255
-        self._sea = relief.sea_colour(coverage, warp)
+        covered = rasterise(self._coverage, relief.GRID)[:relief.SHAPE[0], :, 3] / 255
+        self._sea = relief.sea_colour(covered, warp)
         self._shade = relief.land_shade(warp)
+
+    def _land(self, scale):
+        """What lies on the land's colour: marks, then the relief as shadow and light."""
+        shade = np.ones((525 * scale, 750 * scale))
+        shade[:relief.HEIGHT * scale] = at_scale(self._shade, scale)
+        marks = premultiplied(rasterise(self._land_marks, scale))
+        marks = over(marks, tinted((0, 0, 0), np.clip(1 - shade, 0, 1)))
+        return over(marks, tinted((1, 1, 1), np.clip(shade - 1, 0, 1) * LIGHT))
 
     def picture(self, scale):
         """The map at 1 or 2 device pixels a pixel, as an Image."""
         rows = relief.HEIGHT * scale
-        canvas = np.zeros((525 * scale, 750 * scale, 3))
-        canvas[:rows] = at_scale(self._sea, scale)
-        canvas = over(canvas, rasterise(self._sea_names, scale))
-        ground = rasterise(self._ground, scale)
-        ground[:rows, :, :3] *= at_scale(self._shade, scale)[..., None]
-        canvas = over(canvas, np.clip(ground, 0, 255))
-        canvas = over(canvas, rasterise(self._ink, scale))
+        sea = np.zeros((525 * scale, 750 * scale, 4))
+        sea[..., 3] = 1
+        sea[:rows, :, :3] = at_scale(self._sea, scale) / 255
+        sea = over(sea, premultiplied(rasterise(self._sea_names, scale)))
+        land = rasterise(self._coverage, scale)[..., 3:] / 255
+        canvas = sea * (1 - land) + self._land(scale) * land
+        canvas = over(canvas, premultiplied(rasterise(self._ink, scale)))
         lay_pictures(canvas, scale)
-        return Image.fromarray(np.clip(canvas + .5, 0, 255).astype(np.uint8))
+        canvas[..., :3] /= np.maximum(canvas[..., 3:], 1 / 255)
+        return Image.fromarray(np.clip(canvas * 255 + .5, 0, 255).astype(np.uint8))

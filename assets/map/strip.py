@@ -1,16 +1,11 @@
-"""The strip below the map: a dark ground for the program's command plates, and the legend."""
+"""The strip below the map: a dark ground for the program's command plates and, under the rule, its roster."""
 import looks
 
-MIDDLE = 507                # of the legend's line
-CAPTION = '#c6cfd8'
-# The program's own pictures in the legend: name, left edge.
-PICTURES = (('marker0', 320), ('extra1', 446), ('extra0', 516), ('extra2', 589))
 
-
-def panel():
+def draw():
     out = ['<defs><linearGradient id="strip" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#0f1b2a"/>'
            '<stop offset="1" stop-color="#070c14"/></linearGradient><clipPath id="inside">'
-           '<rect y="430" width="750" height="62"/></clipPath></defs>',
+           '<rect y="430" width="750" height="57"/></clipPath></defs>',
            '<rect y="428" width="750" height="97" fill="url(#strip)"/>',
            '<g clip-path="url(#inside)" fill="none" stroke="#7fa9c6" stroke-width=".6">']
     for x in (46, 704):
@@ -21,23 +16,7 @@ def panel():
                        % (x, angle))
     out.append('</g><path d="M0 428.4H750" stroke="#04070b" stroke-width="1.6"/>'
                '<path d="M0 429.8H750" stroke="{0}" stroke-opacity=".6" stroke-width=".8"/>'
-               '<path d="M24 492.5H726" stroke="{0}" stroke-opacity=".3" stroke-width=".6"/>'
+               '<path d="M24 487.5H726" stroke="{0}" stroke-opacity=".3" stroke-width=".6"/>'
                '<path d="M4 513V521H12M746 513V521H738" fill="none" stroke="{0}" stroke-opacity=".5"/>'
                .format(looks.BRASS))
     return out
-
-
-def legend():
-    def caption(x, words, colour=CAPTION):
-        return looks.text(x, MIDDLE + 3.2, words, 9, colour)
-
-    return [looks.badge(46, MIDDLE, 7), caption(55, 'territory number'),
-            looks.derrick(149, MIDDLE, 1.05), caption(159, 'oil field'),
-            looks.route('M221 %gH245' % MIDDLE), looks.landing(221, MIDDLE), looks.landing(245, MIDDLE),
-            caption(252, 'sea route'),
-            caption(335, '12/3', '#ffffff'), caption(356, 'troops / tanks'),
-            caption(461, 'factory'), caption(531, 'defense'), caption(604, 'factory and defense')]
-
-
-def draw():
-    return panel() + legend()

@@ -12,13 +12,14 @@ namespace {
 
 using Point = std::pair<int, int>;  // in tenths of a pixel, as the file has them
 
-TEST(Map, OutlinesHaveTheNeighboursBordersAndHoldTheMarkers) {
+TEST(Map, OutlinesAndBordersAreTheNeighboursAndHoldTheMarkers) {
     std::ifstream file(VORLUND_SOURCE_DIR "/assets/map/outlines.txt");
     // Neighbours by number: those without a common border, joined by sea, and then the others.
     std::set<std::set<int>> expected{{1, 29},  {4, 5},   {5, 16},  {8, 11},  {10, 11}, {11, 12}, {14, 23},
                                      {16, 18}, {17, 23}, {17, 24}, {19, 21}, {20, 24}, {22, 24}, {25, 28},
                                      {34, 35}, {38, 39}, {39, 40}, {39, 41}, {40, 42}};
     std::map<std::pair<Point, Point>, int> edges;
+    std::map<std::pair<Point, Point>, std::set<int>> shared;
     std::set<int> held;  // whose marker is on their land; a ring within a ring is a hole
     int territory = 0;
     for (std::size_t count = 0; file >> territory >> count;) {
@@ -31,7 +32,7 @@ TEST(Map, OutlinesHaveTheNeighboursBordersAndHoldTheMarkers) {
         for (const Point& b : ring) {
             const auto [edge, isNew] = edges.emplace(std::minmax(a, b), territory);
             if (!isNew) {
-                expected.insert({edge->second, territory});
+                expected.insert(shared[edge->first] = {edge->second, territory});
             }
             // A ray from the marker to the left crosses the outline an odd number of times.
             const double down = land.MapY * 10 - a.second;
@@ -52,6 +53,21 @@ TEST(Map, OutlinesHaveTheNeighboursBordersAndHoldTheMarkers) {
         neighbours.erase({t + 1, NoNeighbour + 1});
     }
     EXPECT_EQ(neighbours, expected);
+    std::ifstream borders(VORLUND_SOURCE_DIR "/assets/map/borders.txt");
+    int other = 0;
+    for (std::size_t count = 0; borders >> territory >> other >> count;) {
+        Point a;
+        for (std::size_t i = 0; i < count; ++i) {
+            Point b;
+            borders >> b.first >> b.second;
+            const auto edge = i > 0 ? shared.find(std::minmax(a, b)) : shared.end();
+            if (edge != shared.end() && edge->second == std::set{territory, other}) {
+                shared.erase(edge);
+            }
+            a = b;
+        }
+    }
+    EXPECT_TRUE(borders.eof() && shared.empty()) << shared.size() << " edges are in no border";
 }
 
 }  // namespace

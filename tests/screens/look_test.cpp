@@ -1,28 +1,15 @@
 #include <QFontInfo>
 #include <QTest>
 #include <QWindow>
-#include <cmath>
 
 #include "tests/rules/small_worlds.h"
+#include "tests/screens/colours.h"
 #include "tests/screens/hands.h"
 
 // Every screen as it looks, with the family of fonts and at the scale that the environment has.
 
 namespace vorlund {
 namespace {
-
-double Luminance(QRgb colour) {
-    const auto part = [](int value) {
-        const double share = value / 255.0;
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour));
-}
-
-double Contrast(QRgb one, QRgb other) {
-    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 int Distance(QRgb one, QRgb other) {
     return std::abs(qRed(one) - qRed(other)) + std::abs(qGreen(one) - qGreen(other)) +
@@ -215,6 +202,31 @@ TEST(Look, TheBoardItsDialogsAndReportsAreLegible) {
         sitting.Resume(FullBoard());
         Type(keys);
         ExpectLegible(window);
+    }
+}
+
+TEST(Look, CountsAreLegibleAndStandApart) {
+    Sitting sitting;
+    sitting.Resume(FullBoard());
+    QWidget& board = Window("frm3");
+    const QImage seen = board.grab().toImage();
+    std::vector<QRect> plates;
+    for (QWidget* widget : board.findChildren<QWidget*>()) {
+        if (const auto* count = dynamic_cast<CountLabel*>(widget)) {
+            const QRect plate = count->Plate().translated(count->pos());
+            for (const int x : {plate.left() + 3, plate.center().x(), plate.right() - 3}) {
+                const QPoint aboveDigits = QPoint(x, plate.top() + 1) * seen.devicePixelRatio();
+                EXPECT_GE(Contrast(colour::Caption, seen.pixel(aboveDigits)), 4.5)
+                    << count->objectName().toStdString();
+            }
+            plates.push_back(plate);
+        }
+    }
+    ASSERT_EQ(plates.size(), NumTerritories);
+    for (std::size_t a = 0; a < plates.size(); ++a) {
+        for (std::size_t b = 0; b < a; ++b) {
+            EXPECT_FALSE(plates[a].intersects(plates[b])) << "the counts of " << a + 1 << " and " << b + 1;
+        }
     }
 }
 

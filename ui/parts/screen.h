@@ -44,6 +44,8 @@ signals:
 protected:
     void SetRole(QAccessible::Role role) { role_ = role; }
 
+    const Picture& Background() const { return background_; }
+
     TextLabel* AddText(const QString& name, Face face, const QRect& frame, std::string_view text = {});
 
     /// A text field named, for those who hear the screen, by the text of `caption`.

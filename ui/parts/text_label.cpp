@@ -2,9 +2,17 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QPainterPath>
+#include <cmath>
 
 namespace vorlund {
+namespace {
+
+// Of a count's plate, in pixels
+constexpr int PlateMargin = 1;
+constexpr int PlateTop = 1;
+constexpr int PlateHeight = 11;
+
+}  // namespace
 
 TextLabel::TextLabel(QWidget* parent, const QString& objectName, Face face, const QRect& frame)
     : QLabel(parent), face_(face) {
@@ -28,21 +36,32 @@ void TextLabel::Show(std::string_view text) {
 }
 
 CountLabel::CountLabel(QWidget* parent, const QString& objectName, const QRect& frame)
-    : TextLabel(parent, objectName, Face::Count, frame) {}
+    : TextLabel(parent, objectName, Face::Count, frame), room_(frame.width()) {}
+
+void CountLabel::Show(std::string_view text) {
+    setFont(Fitted(FontOf(Face::Count), Displayed(text), room_ - 2 * PlateMargin));
+    setText(Displayed(text));
+}
+
+QRect CountLabel::Plate() const {
+    const int wide =
+        static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * PlateMargin;
+    return {(width() - wide) / 2, PlateTop, wide, PlateHeight};
+}
 
 void CountLabel::paintEvent(QPaintEvent*) {
     const QFontMetricsF metrics(font());
-    const QPointF start((width() - metrics.horizontalAdvance(text())) / 2,
-                        (height() - metrics.height()) / 2 + metrics.ascent());
-    QPainterPath letters;
-    letters.addText(start, font(), text());
+    const QRectF plate(Plate());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(letters,
-                       QPen(QColor(8, 14, 26, 225), 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(8, 14, 26, 205));
+    painter.drawRoundedRect(plate, 3, 3);
     painter.setFont(font());
     painter.setPen(ColourOf(Face::Count));
-    painter.drawText(start, text());
+    painter.drawText(QPointF(plate.center().x() - metrics.horizontalAdvance(text()) / 2,
+                             plate.center().y() + metrics.capHeight() / 2),
+                     text());
 }
 
 }  // namespace vorlund

@@ -21,13 +21,24 @@ private:
     Face face_;
 };
 
-/// The count of troops and tanks on the map, with a thin dark rim so that it can be read on every ground.
+/// The count of troops and tanks on the map, on a dark plate so that it can be read on every ground.
 class CountLabel : public TextLabel {
 public:
     CountLabel(QWidget* parent, const QString& objectName, const QRect& frame);
 
+    /// A count wider than `room` pixels, at first the width of the label, is written narrower and smaller.
+    void SetRoom(int room) { room_ = room; }
+
+    void Show(std::string_view text);
+
+    /// Where in the label the count is seen.
+    QRect Plate() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    int room_;
 };
 
 }  // namespace vorlund

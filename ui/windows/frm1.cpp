@@ -24,7 +24,7 @@ frm1::frm1(Sounds& sounds, TitleNavigation& navigation)
              Qt::Window | Qt::FramelessWindowHint),
       sounds_(sounds),
       navigation_(navigation),
-      earth_(QStringLiteral("earth"), QStringLiteral("The earth")) {
+      earth_(QStringLiteral("earth"), QStringLiteral("Vorlund, under a picture of the earth")) {
     auto* imgEarth = new PictureLabel(this, QStringLiteral("imgEarth"), QRect(96, 16, 208, 100));
     imgEarth->Show(&earth_);
     for (int line = 0; line < 3; ++line) {

@@ -3,9 +3,13 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
+#include <algorithm>
+#include <cstdlib>
 #include <string>
 
+#include "state/world.h"
 #include "turn/turn_cycle.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/game_navigation.h"
@@ -16,6 +20,7 @@ namespace {
 
 constexpr QSize Size(750, 525);
 constexpr int SelectionDelay = 20;  // milliseconds
+constexpr int CountWidth = 56;
 
 struct CommandPlace {
     const char* Name = nullptr;
@@ -38,6 +43,19 @@ QString Indexed(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
 }
 
+/// The width that the count of territory index `t` can have without running into a neighbour's.
+int RoomForCount(int t) {
+    constexpr int plateHeight = 12;
+    const WorldEntry& territory = World[static_cast<std::size_t>(t)];
+    int room = CountWidth;
+    for (const WorldEntry& other : World) {
+        if (&other != &territory && std::abs(other.MapY - territory.MapY) < plateHeight) {
+            room = std::min(room, std::abs(other.MapX - territory.MapX));
+        }
+    }
+    return room;
+}
+
 Picture MarkerOf(int player) {
     return Picture(QStringLiteral("marker%1").arg(player), QStringLiteral("Player %1").arg(player + 1));
 }
@@ -52,7 +70,8 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
       imgExtraSet_{Picture(QStringLiteral("extra0"), QStringLiteral("Defense")),
                    Picture(QStringLiteral("extra1"), QStringLiteral("Factory")),
                    Picture(QStringLiteral("extra2"), QStringLiteral("Factory and defense"))},
-      gameOver_(QStringLiteral("gameover"), QStringLiteral("Game over")) {
+      gameOver_(QStringLiteral("gameover"), QStringLiteral("Game over")),
+      land_(Background(), map_) {
     setFocusPolicy(Qt::StrongFocus);
     AddMarkers();
     AddCommandBar();
@@ -77,7 +96,8 @@ void frm3::AddMarkers() {
     // The counts lie above all markers, so that a neighbour's marker never covers a digit.
     for (int t = 0; t < NumTerritories; ++t) {
         Marker& marker = markers_[static_cast<std::size_t>(t)];
-        marker.lblCntry = new CountLabel(this, Indexed("lblCntry", t), QRect(0, 0, 56, 17));
+        marker.lblCntry = new CountLabel(this, Indexed("lblCntry", t), QRect(0, 0, CountWidth, 17));
+        marker.lblCntry->SetRoom(RoomForCount(t));
         marker.imgCntry->hide();
         marker.imgExtra->hide();
         marker.lblCntry->hide();
@@ -109,9 +129,19 @@ void frm3::Open() {
 }
 
 void frm3::RefreshMap() {
+    RefreshLand();
     for (std::size_t t = 0; t < markers_.size(); ++t) {
         RefreshTerritory(static_cast<int>(t), markers_[t]);
     }
+}
+
+void frm3::RefreshLand() {
+    OwnerMap::Owners owners{};
+    for (int t = 0; t < NumTerritories; ++t) {
+        const Territory& territory = game_.TerritoryAt(t);
+        owners[static_cast<std::size_t>(t)] = territory.Occupied ? territory.Owner : OwnerMap::Nobody;
+    }
+    update(land_.Show(owners));
 }
 
 void frm3::RefreshTerritory(int t, const Marker& marker) {
@@ -172,6 +202,13 @@ bool frm3::CloseRequested() {
 
 void frm3::TypeInto(Field& field) {
     connect(&field, &Field::TerritoryWanted, this, [this, &field] { territoryField_ = &field; });
+}
+
+void frm3::paintEvent(QPaintEvent* event) {
+    Screen::paintEvent(event);
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    land_.Paint(painter);
 }
 
 void frm3::mousePressEvent(QMouseEvent* event) {

@@ -7,6 +7,7 @@
 #include "state/game_state.h"
 #include "turn/commands.h"
 #include "ui/windows/board_window.h"
+#include "ui/windows/owner_map.h"
 #include "ui/windows/territory_map.h"
 
 class QHelpEvent;
@@ -43,6 +44,7 @@ protected:
     bool CloseRequested() override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
@@ -54,6 +56,7 @@ private:
 
     void AddMarkers();
     void AddCommandBar();
+    void RefreshLand();
     void RefreshTerritory(int t, const Marker& marker);
     void ShowTerritoryTip(const QHelpEvent& event);
     void Run(Command command);
@@ -68,6 +71,7 @@ private:
     PictureLabel* imgGameOver_;
     QTimer tmrFirst_;
     TerritoryMap map_;
+    OwnerMap land_;
     QPointer<Field> territoryField_;  // the one that has, or last had, the keyboard
 };
 

@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <random>
+
+#include "tests/screens/colours.h"
+#include "ui/windows/owner_colours.h"
+#include "ui/windows/owner_map.h"
+
+// The land as it is painted on the board's map, in the colours of those who hold it.
+
+namespace vorlund {
+namespace {
+
+const QSize Board(750, 525);
+
+struct Land {
+    explicit Land(qreal ratio = 1) : Seen((QSizeF(Board) * ratio).toSize(), QImage::Format_RGB32) {
+        Seen.setDevicePixelRatio(ratio);
+        Seen.fill(Qt::black);
+    }
+
+    QRegion Show(const OwnerMap::Owners& owners) {
+        const QRegion changed = Map.Show(owners);
+        QPainter painter(&Seen);
+        Map.Paint(painter);
+        return changed;
+    }
+
+    Picture Printed{QStringLiteral("map")};
+    TerritoryMap Territories;
+    OwnerMap Map{Printed, Territories};
+    QImage Seen;
+};
+
+OwnerMap::Owners All(int owner) {
+    OwnerMap::Owners owners{};
+    owners.fill(owner);
+    return owners;
+}
+
+/// The middling red, green and blue of all land.
+QRgb ColourOfLand(const Land& land) {
+    std::array<std::vector<int>, 3> parts;
+    for (int i = 0; i < Board.width() * Board.height(); i += 5) {
+        const QPoint place(i % Board.width(), i / Board.width());
+        if (land.Territories.At(QPointF(place) + QPointF(0.5, 0.5))) {
+            const QRgb pixel = land.Seen.pixel(place);
+            parts[0].push_back(qRed(pixel));
+            parts[1].push_back(qGreen(pixel));
+            parts[2].push_back(qBlue(pixel));
+        }
+    }
+    for (std::vector<int>& part : parts) {
+        std::nth_element(part.begin(), part.begin() + static_cast<int>(part.size() / 2), part.end());
+    }
+    return qRgb(parts[0].at(parts[0].size() / 2), parts[1].at(parts[1].size() / 2),
+                parts[2].at(parts[2].size() / 2));
+}
+
+TEST(Land, OwnersAreToldApartByEveryEye) {
+    std::vector<QRgb> colours;
+    for (int owner = 0; owner <= OwnerMap::Nobody; ++owner) {
+        Land land;
+        land.Show(All(owner));
+        colours.push_back(ColourOfLand(land));
+    }
+    for (const auto& [name, eye] : Eyes()) {
+        for (std::size_t a = 0; a < colours.size(); ++a) {
+            for (std::size_t b = 0; b < a; ++b) {
+                EXPECT_GE(Apart(colours[a], colours[b], eye), 20) << name << ", owners " << a << " and " << b;
+            }
+        }
+    }
+}
+
+TEST(Land, OnlyWhatChangesIsPaintedAnewAndAsIfAllWere) {
+    std::mt19937 chance(7);
+    for (const qreal ratio : {1.0, 1.25, 1.5, 1.875, 2.0}) {
+        Land land(ratio);
+        OwnerMap::Owners owners = All(OwnerMap::Nobody);
+        land.Show(owners);
+        for (const int changes : {1, 1, 1, 1, 2, 3, 12, 42, 0}) {
+            const QImage before = land.Seen;
+            for (int i = 0; i < changes; ++i) {
+                owners[chance() % owners.size()] = static_cast<int>(chance() % 6);
+            }
+            const QRegion changed = land.Show(owners);
+            Land whole(ratio);
+            whole.Show(owners);
+            EXPECT_EQ(land.Seen, whole.Seen) << "at " << ratio << " after " << changes << " changes";
+            QImage untold = land.Seen;  // but for what was told to have changed
+            QPainter painter(&untold);
+            painter.setClipRegion(changed);
+            painter.drawImage(0, 0, before);
+            painter.end();
+            EXPECT_EQ(untold, before) << "at " << ratio << " after " << changes << " changes";
+        }
+    }
+}
+
+TEST(Land, AFrontIsADarkLineBetweenTheColoursOfBothSides) {
+    constexpr int x = 110;  // south of 2 lies 7: a level border
+    Land land;
+    int y = 80;
+    while (land.Territories.At(QPointF(x, y)) == 1) {
+        ++y;
+    }
+    ASSERT_EQ(land.Territories.At(QPointF(x, y)), 6);
+    const int line = y - 1;
+    struct Across {
+        QRgb North;
+        int Line;
+        QRgb South;
+    };
+    const auto look = [&](const OwnerMap::Owners& owners) {
+        land.Show(owners);
+        return Across{land.Seen.pixel(x, line - 2),
+                      qGray(land.Seen.pixel(x, line)) + qGray(land.Seen.pixel(x, line - 1)),
+                      land.Seen.pixel(x, line + 2)};
+    };
+    const auto fromEdge = [](QRgb seen, int owner) {
+        return Apart(seen, OwnersColours[static_cast<std::size_t>(owner)].Edge, Eyes()[0].second);
+    };
+    for (int owner = 0; owner < MaxPlayers; ++owner) {
+        const int other = (owner + 1) % MaxPlayers;
+        OwnerMap::Owners owners = All(owner);
+        const Across within = look(owners);
+        owners[6] = other;
+        const Across front = look(owners);
+        const Across beyond = look(All(other));
+        EXPECT_LT(front.Line, std::min(within.Line, beyond.Line) * 3 / 4) << owner;
+        EXPECT_LT(fromEdge(front.North, owner), fromEdge(within.North, owner) - 3) << owner;
+        EXPECT_LT(fromEdge(front.South, other), fromEdge(beyond.South, other) - 3) << owner;
+    }
+}
+
+}  // namespace
+}  // namespace vorlund

@@ -1,0 +1,58 @@
+#include "ui/windows/map_lines.h"
+
+#include <QFile>
+#include <charconv>
+
+namespace vorlund {
+namespace {
+
+/// Whole numbers between blanks and line ends.
+class Numbers {
+public:
+    explicit Numbers(const QByteArray& text) : next_(text.begin()), end_(text.end()) {}
+
+    /// The next number; 0 from the first fault on.
+    int Next() {
+        while (next_ != end_ && (*next_ == ' ' || *next_ == '\n')) {
+            ++next_;
+        }
+        int number = 0;
+        const auto [rest, fault] = std::from_chars(next_, end_, number);
+        next_ = fault == std::errc() ? rest : end_;
+        return number;
+    }
+
+private:
+    const char* next_;
+    const char* end_;
+};
+
+}  // namespace
+
+std::vector<MapLine> ReadMapLines(const QString& name, int territories) {
+    std::vector<MapLine> lines;
+    QFile file(QStringLiteral(":/map/") + name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return lines;
+    }
+    const QByteArray text = file.readAll();
+    Numbers numbers(text);
+    while (true) {
+        MapLine line;
+        for (int i = 0; i < territories; ++i) {
+            line.Territories.push_back(numbers.Next());
+        }
+        const int points = numbers.Next();
+        if (points <= 0) {
+            return lines;
+        }
+        line.Points.reserve(points);
+        for (int i = 0; i < points; ++i) {
+            const double x = numbers.Next() / 10.0;
+            line.Points << QPointF(x, numbers.Next() / 10.0);
+        }
+        lines.push_back(std::move(line));
+    }
+}
+
+}  // namespace vorlund

@@ -1,0 +1,209 @@
+#include "ui/windows/owner_map.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/windows/map_lines.h"
+#include "ui/windows/owner_colours.h"
+
+namespace vorlund {
+namespace {
+
+// Of a front, a border between two owners: how far from it, in pixels of the board, its line ends and the
+// coloured edge of each side's land begins to fade and ends.
+constexpr qreal LineEnd = 1.1;
+constexpr qreal EdgeFades = 2.2;
+constexpr qreal EdgeEnd = 4.5;
+constexpr qreal EdgeStrength = 0.8;
+constexpr QRgb LineColour = qRgb(10, 14, 20);
+constexpr QRgb UnderTheSea = qRgb(20, 30, 40);
+constexpr int Far = 255;  // a distance of EdgeEnd or more
+
+constexpr int ManyTerritories = 6;  // as many are painted no quicker one by one than all at once
+
+/// `share` of `one`, the rest of `other`.
+QRgb Mixed(QRgb one, QRgb other, qreal share) {
+    const auto part = [&](int (*of)(QRgb)) {
+        return static_cast<int>(std::lround(of(one) * share + of(other) * (1 - share)));
+    };
+    return qRgb(part(qRed), part(qGreen), part(qBlue));
+}
+
+qreal SquaredDistance(QPointF place, QPointF from, QPointF to) {
+    const QPointF along = to - from;
+    const qreal length = QPointF::dotProduct(along, along);
+    const qreal share = length > 0 ? QPointF::dotProduct(place - from, along) / length : 0;
+    const QPointF away = place - from - along * std::clamp(share, 0.0, 1.0);
+    return QPointF::dotProduct(away, away);
+}
+
+/// What a border within `rect` reaches.
+QRect Around(const QRectF& rect) {
+    return rect.adjusted(-EdgeEnd, -EdgeEnd, EdgeEnd, EdgeEnd).toAlignedRect();
+}
+
+}  // namespace
+
+OwnerMap::OwnerMap(const Picture& picture, const TerritoryMap& territories)
+    : picture_(picture), territories_(territories) {
+    for (const MapLine& line : ReadMapLines(QStringLiteral("borders.txt"), 2)) {
+        Border border;
+        std::transform(line.Territories.begin(), line.Territories.end(), border.Sides.begin(),
+                       [](int number) { return static_cast<std::size_t>(number - 1); });
+        border.Line = line.Points;
+        border.Box = Around(line.Points.boundingRect());
+        borders_.push_back(std::move(border));
+    }
+    owners_.fill(Nobody);
+    QRect land;
+    for (std::size_t t = 0; t < owners_.size(); ++t) {
+        land |= TouchedBy(t);
+    }
+    size_ = QSize(land.right() + 1, land.bottom() + 1);
+}
+
+QRect OwnerMap::TouchedBy(std::size_t territory) const {
+    return Around(territories_.Outline(static_cast<int>(territory)).controlPointRect());
+}
+
+QRegion OwnerMap::Show(const Owners& owners) {
+    QRegion changed;
+    for (std::size_t t = 0; t < owners.size(); ++t) {
+        if (owners[t] != owners_[t]) {
+            stale_.set(t);
+            changed |= TouchedBy(t);
+        }
+    }
+    owners_ = owners;
+    return changed;
+}
+
+void OwnerMap::Paint(QPainter& painter) {
+    const qreal ratio = painter.deviceTransform().m11();
+    if (ratio_ != ratio) {
+        Begin(ratio);
+        Compose(QRect(QPoint(), size_));
+    } else if (stale_.count() >= ManyTerritories) {
+        Compose(QRect(QPoint(), size_));
+    } else {
+        for (std::size_t t = 0; t < owners_.size(); ++t) {
+            if (stale_.test(t)) {
+                Compose(TouchedBy(t));
+            }
+        }
+    }
+    stale_.reset();
+    painter.drawImage(0, 0, composed_);
+}
+
+QRect OwnerMap::Pixels(const QRect& part) const {
+    return QRectF(QPointF(part.topLeft()) * ratio_, QSizeF(part.size()) * ratio_).toAlignedRect();
+}
+
+void OwnerMap::Begin(qreal ratio) {
+    ratio_ = ratio;
+    const QSize size = Pixels(QRect(QPoint(), size_)).size();
+    composed_ = QImage(size, QImage::Format_RGB32);
+    composed_.setDevicePixelRatio(ratio);
+    numbers_ = QImage(size, QImage::Format_Grayscale8);
+    numbers_.fill(0);
+    QPainter painter(&numbers_);
+    painter.scale(ratio, ratio);
+    for (int t = 0; t < NumTerritories; ++t) {
+        const int number = t + 1;
+        painter.fillPath(territories_.Outline(t), QColor(number, number, number));
+    }
+    std::for_each(borders_.begin(), borders_.end(), [this](Border& border) { Measure(border); });
+    MixColours();
+}
+
+void OwnerMap::Measure(Border& border) const {
+    const QRect all = Pixels(border.Box).intersected(composed_.rect());
+    std::vector<qreal> squares(static_cast<std::size_t>(all.width() * all.height()), EdgeEnd * EdgeEnd);
+    const auto square = [&](int x, int y) -> qreal& {
+        return squares[static_cast<std::size_t>((y - all.top()) * all.width() + x - all.left())];
+    };
+    const auto onBoard = [&](int x, int y) { return QPointF(x + 0.5, y + 0.5) / ratio_; };
+    for (qsizetype i = 1; i < border.Line.size(); ++i) {
+        const QPointF from = border.Line[i - 1];
+        const QPointF to = border.Line[i];
+        const QRect reached = Pixels(Around(QRectF(from, to).normalized())).intersected(all);
+        for (int y = reached.top(); y <= reached.bottom(); ++y) {
+            for (int x = reached.left(); x <= reached.right(); ++x) {
+                square(x, y) = std::min(square(x, y), SquaredDistance(onBoard(x, y), from, to));
+            }
+        }
+    }
+    border.Pixels.clear();
+    for (int y = all.top(); y <= all.bottom(); ++y) {
+        for (int x = all.left(); x <= all.right(); ++x) {
+            const auto distance = static_cast<int>(std::sqrt(square(x, y)) / EdgeEnd * Far);
+            if (distance < Far) {
+                border.Pixels.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y),
+                                         static_cast<std::uint8_t>(distance)});
+            }
+        }
+    }
+    border.Pixels.shrink_to_fit();
+}
+
+void OwnerMap::MixColours() {
+    for (std::size_t owner = 0; owner < colours_.size(); ++owner) {
+        for (std::size_t distance = 0; distance <= Far; ++distance) {
+            const qreal away = static_cast<qreal>(distance) * EdgeEnd / Far;
+            const qreal edge = std::clamp((EdgeEnd - away) / (EdgeEnd - EdgeFades), 0.0, 1.0);
+            const qreal line = std::clamp((LineEnd - away) * ratio_ + 0.5, 0.0, 1.0);
+            const QRgb land =
+                Mixed(OwnersColours[owner].Edge, OwnersColours[owner].Land, edge * EdgeStrength);
+            colours_[owner][distance] = Mixed(LineColour, land, line);
+        }
+    }
+}
+
+void OwnerMap::Compose(const QRect& part) {
+    const QRect pixels = Pixels(part).intersected(composed_.rect());
+    LayFronts(part, pixels);
+    FillLand(pixels);
+    // The same pixels, to be counted as such
+    QImage canvas(composed_.bits(), composed_.width(), composed_.height(), composed_.bytesPerLine(),
+                  composed_.format());
+    QPainter(&canvas).drawPixmap(pixels, picture_.At(ratio_), pixels);
+}
+
+/// Leaves in every pixel of the part its distance from the nearest front.
+void OwnerMap::LayFronts(const QRect& part, const QRect& pixels) {
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(composed_.scanLine(y));
+        std::fill(line + pixels.left(), line + pixels.right() + 1, static_cast<QRgb>(Far));
+    }
+    for (const Border& border : borders_) {
+        if (owners_[border.Sides[0]] == owners_[border.Sides[1]] || !border.Box.intersects(part)) {
+            continue;
+        }
+        for (const Beside& beside : border.Pixels) {
+            if (pixels.contains(beside.X, beside.Y)) {
+                QRgb& pixel = reinterpret_cast<QRgb*>(composed_.scanLine(beside.Y))[beside.X];
+                pixel = std::min(pixel, static_cast<QRgb>(beside.Distance));
+            }
+        }
+    }
+}
+
+/// Turns the distances into colours.
+void OwnerMap::FillLand(const QRect& pixels) {
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        const uchar* number = numbers_.constScanLine(y) + pixels.left();
+        auto* pixel = reinterpret_cast<QRgb*>(composed_.scanLine(y)) + pixels.left();
+        for (int i = 0; i < pixels.width(); ++i, ++number, ++pixel) {
+            if (*number == 0) {
+                *pixel = UnderTheSea;
+            } else {
+                const auto owner = static_cast<std::size_t>(owners_[*number - 1U]);
+                *pixel = colours_[owner][*pixel];
+            }
+        }
+    }
+}
+
+}  // namespace vorlund
