@@ -8,15 +8,15 @@
 namespace vorlund {
 namespace {
 
-constexpr TradeTerms Buying{"buy", "bought", 1, TroopPrice, TankPrice};
+constexpr TradeTerms Buying{"buy", "bought", 1, BuyingPrices};
 
 // An order is priced with a little more than a third of a dollar a barrel, so that lots of 3 come out whole.
 constexpr double DollarsPerBarrel = 0.3334;
 
 // The price of a whole order; nothing when it does not fit 16 bits.
 std::optional<std::int16_t> PriceOf(const TradeOrder& order) {
-    return CutToInt16(1.0 * TroopPrice * order.Force.Troops + 1.0 * TankPrice * order.Force.Tanks +
-                      std::floor(order.Oil * DollarsPerBarrel));
+    return CutToInt16(1.0 * BuyingPrices.Troop * order.Force.Troops +
+                      1.0 * BuyingPrices.Tank * order.Force.Tanks + std::floor(order.Oil * DollarsPerBarrel));
 }
 
 // Where the units would go, or why they cannot.

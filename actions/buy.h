@@ -13,7 +13,7 @@ namespace vorlund {
 /// What the current player has, for the tops of dialogs: "You have $100 to spend.".
 std::string MoneyLine(const GameState& game);
 
-/// Buys troops ($10), tanks ($40) and oil ($1 for 3 barrels) for the current player; units go into an own
+/// Buys troops, tanks and oil for the current player; units go into an own
 /// territory with a factory. Quantities are cut down to whole numbers, negative ones become 0, and oil is
 /// lowered to whole lots. The whole order is carried out and reported, or refused: for its territory, as no
 /// transaction at all, or for its price.

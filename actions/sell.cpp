@@ -7,7 +7,7 @@
 namespace vorlund {
 namespace {
 
-constexpr TradeTerms Selling{"sell", "sold", -1, TroopSalePrice, TankSalePrice};
+constexpr TradeTerms Selling{"sell", "sold", -1, SellingPrices};
 
 // Where the units would come from, or why they cannot.
 std::variant<Refusal, int> SourceOf(const GameState& game, const Units& force, const TradeEntries& entries) {

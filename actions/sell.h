@@ -15,10 +15,10 @@ struct NoSurvivor {
     bool operator==(const NoSurvivor&) const = default;
 };
 
-/// Sells the current player's troops ($7) and tanks ($30) out of one own territory, and oil ($1 for 3
-/// barrels). Quantities are cut down to whole numbers, negative ones become 0, and oil is lowered to whole
-/// lots. A territory whose last units are sold is given up, with the last of them the seller dies, and with
-/// the last seller the game is over. The whole sale is carried out and reported, or refused.
+/// Sells the current player's troops and tanks out of one own territory, and oil. Quantities are cut down to
+/// whole numbers, negative ones become 0, and oil is lowered to whole lots. A territory whose last units are
+/// sold is given up, with the last of them the seller dies, and with the last seller the game is over. The
+/// whole sale is carried out and reported, or refused.
 std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntries& entries);
 
 }  // namespace vorlund

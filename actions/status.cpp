@@ -1,8 +1,6 @@
 #include "actions/status.h"
 
-#include <cmath>
-
-#include "state/int16.h"
+#include "turn/upkeep.h"
 
 namespace vorlund {
 namespace {
@@ -15,8 +13,7 @@ std::string UpkeepEstimate(const GameState& game) {
             income += 5 * game.TerritoryAt(t).Value + 10;
         }
     }
-    income = static_cast<int>(std::floor(income * (1 + 0.1 * player.EconomyLevel)));
-    const int net = income - ClampInt16(2 * player.Total.Troops + player.Factories);
+    const int net = RaisedByEconomy(income, player) - MoneyUpkeep(player);
     return net > 0 ? "+ $" + std::to_string(net) : "- $" + std::to_string(-net);
 }
 

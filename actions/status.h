@@ -24,7 +24,7 @@ struct StatusLines {
 };
 
 /// How the current player stands. The estimate of the next upkeep has a formula of its own: $(5 x value + 10)
-/// a territory, raised by a tenth per Economy level and cut down, less $2 a troop and $1 a factory; it is not
+/// a territory, raised by the Economy level, less the upkeep of troops and factories; it is not
 /// what the upkeep will book.
 StatusLines DescribeStatus(const GameState& game);
 

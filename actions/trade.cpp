@@ -52,8 +52,8 @@ std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const
     const std::string place = " in " + std::string(territory.Name);
     const int lots = order.Oil / BarrelsPerDollar;
     const int barrels = lots * BarrelsPerDollar;
-    enter(order.Force.Troops, "Troops", terms.TroopPrice * order.Force.Troops, place);
-    enter(order.Force.Tanks, "Tanks", terms.TankPrice * order.Force.Tanks, place);
+    enter(order.Force.Troops, "Troops", terms.Prices.Troop * order.Force.Troops, place);
+    enter(order.Force.Tanks, "Tanks", terms.Prices.Tank * order.Force.Tanks, place);
     enter(barrels, "oil barrels", lots, "");
     booking.Lines += barrels != 0 ? "\r" : "";
 

@@ -8,6 +8,7 @@
 #include "actions/force.h"
 #include "actions/outcome.h"
 #include "state/game_state.h"
+#include "state/prices.h"
 
 namespace vorlund {
 
@@ -27,13 +28,12 @@ inline constexpr const char* TransactionHeadline = "Details on current transacti
 
 // What buying and selling share. They read, check and correct their entries in orders of their own.
 
-/// What tells the two trades apart, prices in dollars.
+/// What tells the two trades apart.
 struct TradeTerms {
     const char* Verb;      ///< "buy"
     const char* PastVerb;  ///< "bought"
     int Direction;         ///< 1 when goods come to the player, -1 when they go
-    int TroopPrice;
-    int TankPrice;
+    UnitPrices Prices;
 };
 
 /// Quantities read from entries, fractions and signs included.

@@ -32,12 +32,12 @@ WhyNot WhyNoUpgrade(const GameState& game, Track track);
 /// level 3.
 std::variant<Nothing, Refusal, Purchase> RaiseLevel(GameState& game, Track track);
 
-/// Builds a factory for $180 in the current player's territory whose number `territory` holds, as typed; the
+/// Builds a factory in the current player's territory whose number `territory` holds, as typed; the
 /// number is rounded, halves to the even neighbour. Refused when that is no territory number, when the
 /// territory is not the player's or has a factory, or when the money is short.
 std::variant<Refusal, Purchase> Fact(GameState& game, std::string_view territory);
 
-/// Builds a defense for $100, like Fact.
+/// Builds a defense, like Fact.
 std::variant<Refusal, Purchase> Def(GameState& game, std::string_view territory);
 
 }  // namespace vorlund

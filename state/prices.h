@@ -7,11 +7,15 @@
 
 namespace vorlund {
 
-// All in dollars.
-inline constexpr std::int16_t TroopPrice = 10;
-inline constexpr std::int16_t TankPrice = 40;
-inline constexpr std::int16_t TroopSalePrice = 7;
-inline constexpr std::int16_t TankSalePrice = 30;
+// All in dollars. The captions of the dialogs are made from them.
+
+struct UnitPrices {
+    int Troop;
+    int Tank;
+};
+
+inline constexpr UnitPrices BuyingPrices{10, 40};
+inline constexpr UnitPrices SellingPrices{7, 30};
 inline constexpr std::int16_t BarrelsPerDollar = 3;  ///< oil is traded in such lots, either way
 inline constexpr std::int16_t FactoryPrice = 180;
 inline constexpr std::int16_t DefensePrice = 100;

@@ -26,8 +26,7 @@ Harvest HarvestOf(const GameState& game, int player) {
         income += TerritoryIncome(game.TerritoryAt(t).Value);
         harvest.Oil += game.TerritoryAt(t).HasOil ? OilFieldBarrels : 0;
     }
-    const double multiplier = game.PlayerAt(player).EconomyLevel * (EconomyPercent / 100.0) + 1.0;
-    harvest.Income = ClampInt16(static_cast<std::int64_t>(std::floor(income * multiplier)));
+    harvest.Income = ClampInt16(RaisedByEconomy(income, game.PlayerAt(player)));
     return harvest;
 }
 
@@ -56,10 +55,18 @@ void Collapse(GameState& game, int p) {
 
 }  // namespace
 
+std::int16_t MoneyUpkeep(const Player& player) {
+    return ClampInt16(TroopUpkeep * player.Total.Troops + FactoryUpkeep * player.Factories);
+}
+
+int RaisedByEconomy(int income, const Player& player) {
+    const double multiplier = player.EconomyLevel * (EconomyPercent / 100.0) + 1.0;
+    return static_cast<int>(std::floor(income * multiplier));
+}
+
 Report RunUpkeep(GameState& game, Random& random, int p) {
     Player& player = game.PlayerAt(p);
-    const std::int16_t upkeep =
-        ClampInt16(TroopUpkeep * player.Total.Troops + FactoryUpkeep * player.Factories);
+    const std::int16_t upkeep = MoneyUpkeep(player);
     const std::int16_t tankUpkeep = ClampInt16(std::int64_t{TankUpkeepBarrels} * player.Total.Tanks);
     const Harvest harvest = HarvestOf(game, p);
     int money = player.Money - upkeep + harvest.Income;

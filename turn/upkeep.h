@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include "state/game_state.h"
 #include "state/random.h"
@@ -23,10 +24,15 @@ constexpr int TerritoryIncome(int value) {
     return 4 * value + 15;
 }
 
-/// The upkeep at the start of a human player's turn: charges $2 a troop, $1 a factory and a barrel a tank,
-/// pays
-/// $(4 x value + 15) a territory raised by a tenth per Economy level, gives 15 barrels an oil field, may
-/// deliver a researched bomb (one draw over 13, 7, 5 or 3 by Nuclear level, made in any case), settles
+/// What troops and factories cost a player each turn.
+std::int16_t MoneyUpkeep(const Player& player);
+
+/// `income` raised by the player's Economy level, cut down to whole dollars.
+int RaisedByEconomy(int income, const Player& player);
+
+/// The upkeep at the start of a human player's turn: charges money for troops and factories and a barrel a
+/// tank, pays every territory's income raised by the Economy level, gives 15 barrels an oil field, may
+/// deliver a researched bomb (one draw over the faces of the Nuclear level, made in any case), settles
 /// missing oil at a dollar a barrel, and counts the turns in debt; the third one collapses the player's
 /// empire. Sums are held to 16 bits. `player` is the index of a living human; the report says what happened.
 Report RunUpkeep(GameState& game, Random& random, int player);

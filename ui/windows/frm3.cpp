@@ -26,18 +26,23 @@ struct CommandPlace {
     const char* Name = nullptr;
     const char* Caption = nullptr;
     QPoint Position;
-    char Key = 0;
 };
 
 // In the order of Command
-constexpr std::array<CommandPlace, NumCommands> CommandBar{{{"lblBuy", "&Buy", {112, 436}, 'b'},
-                                                            {"lblSell", "&Sell", {112, 464}, 's'},
-                                                            {"lblTransport", "T&ransport", {244, 436}, 'r'},
-                                                            {"lblAttack", "&Attack", {244, 464}, 'a'},
-                                                            {"lblUpgrade", "&Upgrade", {392, 436}, 'u'},
-                                                            {"lblStatus", "S&tatus", {392, 464}, 't'},
-                                                            {"lblEndTurn", "&End Turn", {532, 436}, 'e'},
-                                                            {"lblSave", "Sa&ve", {532, 464}, 'v'}}};
+constexpr std::array<CommandPlace, NumCommands> CommandBar{{{"lblBuy", "&Buy", {112, 436}},
+                                                            {"lblSell", "&Sell", {112, 464}},
+                                                            {"lblTransport", "T&ransport", {244, 436}},
+                                                            {"lblAttack", "&Attack", {244, 464}},
+                                                            {"lblUpgrade", "&Upgrade", {392, 436}},
+                                                            {"lblStatus", "S&tatus", {392, 464}},
+                                                            {"lblEndTurn", "&End Turn", {532, 436}},
+                                                            {"lblSave", "Sa&ve", {532, 464}}}};
+
+/// The letter behind "&" in the caption, small: the command's key and its accelerator.
+QChar LetterOf(Command command) {
+    const QString caption = QString::fromLatin1(CommandBar[static_cast<std::size_t>(command)].Caption);
+    return caption[caption.indexOf(u'&') + 1].toLower();
+}
 
 QString Indexed(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
@@ -110,7 +115,7 @@ void frm3::AddCommandBar() {
         CommandLabel* label = AddCommand(QString::fromLatin1(place.Name), QString::fromLatin1(place.Caption),
                                          QRect(place.Position, QSize(90, 19)));
         label->setFocusPolicy(Qt::TabFocus);
-        label->SetKey(QString(QLatin1Char(place.Key)).toUpper());
+        label->SetKey(LetterOf(command).toUpper());
         connect(label, &CommandLabel::clicked, this, [this, command] { Run(command); });
         commands_[static_cast<std::size_t>(command)] = label;
     }
@@ -241,8 +246,7 @@ void frm3::ShowTerritoryTip(const QHelpEvent& event) {
 void frm3::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text().toLower();
     for (const Command command : AllCommands) {
-        if (!event->isAutoRepeat() &&
-            typed == QLatin1Char(CommandBar[static_cast<std::size_t>(command)].Key)) {
+        if (!event->isAutoRepeat() && typed == LetterOf(command)) {
             Run(command);
             return;
         }

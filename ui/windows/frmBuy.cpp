@@ -7,8 +7,7 @@ namespace vorlund {
 frmBuy::frmBuy(DialogHost& host, GameState& game)
     : TradeDialog(host,
                   {QStringLiteral("frmBuy"), QStringLiteral("Vorlund - Buy"), QSize(391, 138), 136, 176, 292,
-                   "Territory # with Factory:", "Number of Troops($10):", "Number of Tanks($40):",
-                   "Barrels of Oil($1/3):", QStringLiteral("Buy")},
+                   "Territory # with Factory:", BuyingPrices, QStringLiteral("Buy")},
                   MoneyLine(game)),
       game_(game) {}
 

@@ -7,8 +7,7 @@ namespace vorlund {
 frmSell::frmSell(DialogHost& host, GameState& game)
     : TradeDialog(host,
                   {QStringLiteral("frmSell"), QStringLiteral("Vorlund - Sell"), QSize(348, 135), 76, 130, 246,
-                   "Territory #:", "Number of Troops($7):", "Number of Tanks($30):", "Barrels of Oil($1/3):",
-                   QStringLiteral("Sell")},
+                   "Territory #:", SellingPrices, QStringLiteral("Sell")},
                   "You may sell oil or Troops/Tanks in any of your territories."),
       game_(game) {}
 

@@ -1,6 +1,7 @@
 #include "ui/windows/frmUpgrade.h"
 
 #include "actions/buy.h"
+#include "state/prices.h"
 #include "ui/windows/dialog_host.h"
 
 namespace vorlund {
@@ -26,8 +27,8 @@ frmUpgrade::frmUpgrade(DialogHost& host, GameState& game)
     AddLine(QStringLiteral("Line3"), QPoint(12, 125), Width - 24);
     AddTrack(Track::Nuclear, "Nuclear", 3, 130);
     AddLine(QStringLiteral("Line6"), QPoint(12, 167), Width - 24);
-    AddConstruction(1, 177, "Label7", "txtC1", QStringLiteral("Build Factory"), "$180", &Fact);
-    AddConstruction(2, 227, "Label1", "txtC2", QStringLiteral("Build Defense"), "$100", &Def);
+    AddConstruction(1, 177, "Label7", "txtC1", QStringLiteral("Build Factory"), FactoryPrice, &Fact);
+    AddConstruction(2, 227, "Label1", "txtC2", QStringLiteral("Build Defense"), DefensePrice, &Def);
     fields_[0]->setFocus();
     Update({});
 }
@@ -45,13 +46,13 @@ void frmUpgrade::AddTrack(Track track, const char* name, int number, int y) {
 }
 
 void frmUpgrade::AddConstruction(int number, int y, const char* captionName, const char* fieldName,
-                                 const QString& command, const char* price,
+                                 const QString& command, int price,
                                  std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view)) {
     TextLabel* caption =
         AddText(QString::fromLatin1(captionName), Face::Caption, QRect(12, y, 62, 19), "Territory #:");
     Field* field = AddField(caption, QString::fromLatin1(fieldName), QPoint(76, y), 2);
     CommandLabel* go = AddCommand(Numbered("lblGo", number + 3), command, QRect(124, y, 118, 19));
-    AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), price)
+    AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), "$" + std::to_string(price))
         ->setAlignment(Qt::AlignCenter);
     // The two captions are alike; who hears the screen is told what is built.
     field->setAccessibleDescription(command);

@@ -24,7 +24,7 @@ private:
 
     void AddTrack(Track track, const char* name, int number, int y);
     void AddConstruction(int number, int y, const char* captionName, const char* fieldName,
-                         const QString& command, const char* price,
+                         const QString& command, int price,
                          std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view));
 
     /// Brings the dialog up to the game; `message` is the last result, in front of the money line.

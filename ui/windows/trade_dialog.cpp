@@ -14,7 +14,7 @@ TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_vie
     : CommandDialog(host, layout.Name, layout.Title, layout.Size) {
     AddText(QStringLiteral("lblA"), Face::Status, QRect(8, 5, layout.Size.width() - 16, 19), topLine)
         ->setAlignment(Qt::AlignCenter);
-    const auto row = [&](const char* name, const char* field, const char* caption, int line) {
+    const auto row = [&](const char* name, const char* field, const std::string& caption, int line) {
         const int y = TroopsY + line * RowHeight;
         const int x = layout.QuantityCaptionX;
         TextLabel* label = AddText(QString::fromLatin1(name), Face::Caption,
@@ -25,9 +25,10 @@ TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_vie
         AddText(QStringLiteral("lbl3"), Face::Caption,
                 QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight), layout.TerritoryCaption);
     txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(layout.TerritoryFieldX, TerritoryY), 2);
-    txtTroops_ = row("lbl4", "txtTroops", layout.TroopsCaption, 0);
-    txtTanks_ = row("lbl5", "txtTanks", layout.TanksCaption, 1);
-    txtOil_ = row("lbl6", "txtOil", layout.OilCaption, 2);
+    txtTroops_ =
+        row("lbl4", "txtTroops", "Number of Troops($" + std::to_string(layout.Prices.Troop) + "):", 0);
+    txtTanks_ = row("lbl5", "txtTanks", "Number of Tanks($" + std::to_string(layout.Prices.Tank) + "):", 1);
+    txtOil_ = row("lbl6", "txtOil", "Barrels of Oil($1/" + std::to_string(BarrelsPerDollar) + "):", 2);
     CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo"), layout.Command,
                                      QRect(layout.QuantityFieldX + 42, TroopsY + RowHeight, 40, FieldHeight));
     lblGo->SetKey(QStringLiteral("Enter"));

@@ -19,9 +19,7 @@ protected:
         int QuantityCaptionX;
         int QuantityFieldX;
         const char* TerritoryCaption;
-        const char* TroopsCaption;
-        const char* TanksCaption;
-        const char* OilCaption;
+        UnitPrices Prices;  ///< in the captions of the fields
         QString Command;
     };
 
