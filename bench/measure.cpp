@@ -110,7 +110,7 @@ struct Run {
     GameState Game;
     ClockRandom Chance;
     SavedGamesFolder Saves{"/none"};
-    SoundPlayer Sounds{QStringLiteral(SOUND_MODULE)};
+    SoundPlayer Sounds{SOUND_MODULE};
     Program Windows{Game, Chance, Saves, Sounds};
 };
 

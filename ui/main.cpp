@@ -28,7 +28,7 @@ int main(int, char** arguments) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     // It goes last: the click of Exit is still heard when the windows are gone and another copy may start.
-    vorlund::SoundPlayer sounds(QApplication::applicationDirPath() + QStringLiteral(VORLUND_SOUND_MODULE));
+    vorlund::SoundPlayer sounds(QApplication::applicationDirPath().toStdString() + VORLUND_SOUND_MODULE);
     const vorlund::SingleCopy copy;
     if (copy.OtherIsRunning()) {
         return AnotherCopyRuns;

@@ -255,7 +255,7 @@ private:
     GameState game_;
     SeededRandom chance_{static_cast<std::uint32_t>(seed_)};
     SavedGamesFolder saves_{folder_.path().toStdString()};
-    SoundPlayer sounds_{QStringLiteral(SOUND_MODULE)};
+    SoundPlayer sounds_{SOUND_MODULE};
     Program program_{game_, chance_, saves_, sounds_};
     qsizetype eventsAllowed_ = 0;
     QStringList done_;

@@ -199,5 +199,54 @@ TEST(Game, TheTitleFollowsThePointer) {
     EXPECT_TRUE(Ends([] { Close("frm1"); }));
 }
 
+TEST(Recordings, TheMusicOnceAndAClickForEveryCommandOfTheTitle) {
+    Sitting sitting;
+    const SoundRecorder& recorded = sitting.Recorded();
+    Click("frm1", "lblLoad");  // the timers of the hidden title go on
+    EXPECT_EQ(sitting.Heard(), "Beep");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return recorded.Music == 1; }));
+    Click("frmLoad", "lblGo(2)");
+    QTest::qWait(300);
+    EXPECT_EQ(recorded.Music, 1);
+    EXPECT_EQ(sitting.Heard(), "Beep");
+    EXPECT_TRUE(Ends([] { Click("frm1", "lblExit"); }));
+    EXPECT_EQ(sitting.Heard(), "Beep Beep");
+    Sitting left;
+    Click("frm1", "lblPlay");
+    const int before = left.Recorded().Music;
+    QTest::qWait(300);
+    EXPECT_EQ(left.Recorded().Music, before) << "the timers stop with the title";
+    EXPECT_EQ(left.Heard(), "Beep");
+}
+
+// Numbers on the map in the moment in which a recording starts.
+TEST(Recordings, GunfireAndExplosionBeforeTheMapIsRedrawn) {
+    Sitting sitting;
+    sitting.Resume(NewGame(3, "7 Anna 30/1; 8 Ben 8/0; 6 Ben 1/0; 36 Cleo 5/0; Anna HasNuke 1"));
+    QStringList seen;
+    sitting.Recorded().WhenPlayed = [&] {
+        seen << Text("frm3", "lblCntry(6)") + ' ' + Text("frm3", "lblCntry(7)");
+    };
+    Type("a\t\t\t\t8\n");
+    EXPECT_EQ(Text("frm3", "lblCntry(7)"), "4/0");
+    Type("\na7\t8\t20\n");
+    EXPECT_EQ(Text("frm3", "lblCntry(7)"), "20/0");
+    EXPECT_EQ(seen.join(" | "), "30/1 8/0 | 30/1 4/0");
+    EXPECT_EQ(sitting.Heard(), "Beep Explode Gun");
+}
+
+TEST(Recordings, NoneForRefusalsAndForWhatComputersDo) {
+    Sitting sitting(std::make_unique<SeededRandom>(3));
+    sitting.Resume(NewGame(3,
+                           "7 Anna 1/0; 15 Anna 90/0; 8 Ben 99/0; 36 Cleo 5/0; Anna HasNuke 1; "
+                           "Ben IsComputer 1 HasNuke 1"));
+    sitting.Expect({"Warning: Enter a number for either troops or tanks."});
+    Type("a7\t8\n");
+    sitting.Expect({"Warning: The country number must be 1-42."});
+    Type("\t\t\t43\n\033e");
+    EXPECT_TRUE(ReportText().contains("was nuked") && ReportText().contains("Attack on Midwest USA"));
+    EXPECT_EQ(sitting.Heard(), "Beep");
+}
+
 }  // namespace
 }  // namespace vorlund

@@ -4,72 +4,19 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <gtest/gtest.h>
+
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 #include <algorithm>
 
-#include "tests/engine/seeded_random.h"
-#include "tests/rules/small_worlds.h"
-#include "tests/screens/hands.h"
 #include "ui/machine/sound_player.h"
 
 namespace vorlund {
 namespace {
-
-// Which recording is started where.
-
-TEST(Recordings, TheMusicOnceAndAClickForEveryCommandOfTheTitle) {
-    Sitting sitting;
-    const SoundRecorder& recorded = sitting.Recorded();
-    Click("frm1", "lblLoad");  // the timers of the hidden title go on
-    EXPECT_EQ(sitting.Heard(), "Beep");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return recorded.Music == 1; }));
-    Click("frmLoad", "lblGo(2)");
-    QTest::qWait(300);
-    EXPECT_EQ(recorded.Music, 1);
-    EXPECT_EQ(sitting.Heard(), "Beep");
-    EXPECT_TRUE(Ends([] { Click("frm1", "lblExit"); }));
-    EXPECT_EQ(sitting.Heard(), "Beep Beep");
-    Sitting left;
-    Click("frm1", "lblPlay");
-    const int before = left.Recorded().Music;
-    QTest::qWait(300);
-    EXPECT_EQ(left.Recorded().Music, before) << "the timers stop with the title";
-    EXPECT_EQ(left.Heard(), "Beep");
-}
-
-// Numbers on the map in the moment in which a recording starts.
-TEST(Recordings, GunfireAndExplosionBeforeTheMapIsRedrawn) {
-    Sitting sitting;
-    sitting.Resume(NewGame(3, "7 Anna 30/1; 8 Ben 8/0; 6 Ben 1/0; 36 Cleo 5/0; Anna HasNuke 1"));
-    QStringList seen;
-    sitting.Recorded().WhenPlayed = [&] {
-        seen << Text("frm3", "lblCntry(6)") + ' ' + Text("frm3", "lblCntry(7)");
-    };
-    Type("a\t\t\t\t8\n");
-    EXPECT_EQ(Text("frm3", "lblCntry(7)"), "4/0");
-    Type("\na7\t8\t20\n");
-    EXPECT_EQ(Text("frm3", "lblCntry(7)"), "20/0");
-    EXPECT_EQ(seen.join(" | "), "30/1 8/0 | 30/1 4/0");
-    EXPECT_EQ(sitting.Heard(), "Beep Explode Gun");
-}
-
-TEST(Recordings, NoneForRefusalsAndForWhatComputersDo) {
-    Sitting sitting(std::make_unique<SeededRandom>(3));
-    sitting.Resume(NewGame(3,
-                           "7 Anna 1/0; 15 Anna 90/0; 8 Ben 99/0; 36 Cleo 5/0; Anna HasNuke 1; "
-                           "Ben IsComputer 1 HasNuke 1"));
-    sitting.Expect({"Warning: Enter a number for either troops or tanks."});
-    Type("a7\t8\n");
-    sitting.Expect({"Warning: The country number must be 1-42."});
-    Type("\t\t\t43\n\033e");
-    EXPECT_TRUE(ReportText().contains("was nuked") && ReportText().contains("Attack on Midwest USA"));
-    EXPECT_EQ(sitting.Heard(), "Beep");
-}
-
-// What the player makes of them.
 
 constexpr std::size_t HalfSecond = 11025;
 
@@ -113,9 +60,9 @@ double Length(const std::vector<int>& samples) {
 }
 
 // A device that writes what is played to a file.
-class SoundOnDisk : public testing::Test {
+class SoundPlayerTest : public testing::Test {
 protected:
-    SoundOnDisk() {
+    SoundPlayerTest() {
         qputenv("SDL_AUDIODRIVER", "disk");
         qputenv("SDL_DISKAUDIOFILE", output_.toLocal8Bit());
     }
@@ -131,7 +78,7 @@ protected:
     QString output_ = folder_.filePath("output.raw");
 };
 
-TEST_F(SoundOnDisk, EveryRecordingIsHeardInItsLength) {
+TEST_F(SoundPlayerTest, EveryRecordingIsHeardInItsLength) {
     // Samples at 22,050 a second of the click, of the gunfire, which is coded in four bits, and of the
     // explosion
     const std::vector<std::pair<Wave, std::size_t>> rows{
@@ -148,7 +95,7 @@ TEST_F(SoundOnDisk, EveryRecordingIsHeardInItsLength) {
     }
 }
 
-TEST_F(SoundOnDisk, TheClickCutsOffTheMusic) {
+TEST_F(SoundPlayerTest, TheClickCutsOffTheMusic) {
     SoundPlayer sounds(SOUND_MODULE);
     sounds.PlayWave(Wave::Vrl1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return Samples(output_).size() > HalfSecond; }));
@@ -166,7 +113,7 @@ TEST_F(SoundOnDisk, TheClickCutsOffTheMusic) {
     EXPECT_TRUE(QTest::qWaitFor(isClosed)) << "a silent game holds no device";
 }
 
-TEST_F(SoundOnDisk, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
+TEST_F(SoundPlayerTest, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
     SoundPlayer(SOUND_MODULE).PlayWave(Wave::Beep);
     EXPECT_NEAR(Length(Samples(output_)), 2039, 10);
     {
@@ -177,11 +124,11 @@ TEST_F(SoundOnDisk, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
     EXPECT_LT(Samples(output_).size(), 3 * HalfSecond);
 }
 
-TEST_F(SoundOnDisk, NothingIsPrintedWhereNothingCanBePlayed) {
+TEST_F(SoundPlayerTest, NothingIsPrintedWhereNothingCanBePlayed) {
     QuietenSoundServers();
     qputenv("AUDIODEV", "no-such-card");
     qputenv("PULSE_RUNTIME_PATH", "/proc/none");  // a folder that the server's library fails to make
-    for (const char* driver : {"gramophone", "dummy", "alsa", "pulseaudio", ""}) {
+    for (const char* driver : {"gramophone", "dummy", "pulseaudio", "alsa", ""}) {
         qputenv("SDL_AUDIODRIVER", driver);
         testing::internal::CaptureStderr();
         {
@@ -194,7 +141,7 @@ TEST_F(SoundOnDisk, NothingIsPrintedWhereNothingCanBePlayed) {
     }
 }
 
-TEST_F(SoundOnDisk, WithoutAThreadTheGameIsSilent) {
+TEST_F(SoundPlayerTest, WithoutAThreadTheGameIsSilent) {
     SoundPlayer sounds(SOUND_MODULE);
     pthread_attr_t usual;
     pthread_attr_t huge;
@@ -209,7 +156,7 @@ TEST_F(SoundOnDisk, WithoutAThreadTheGameIsSilent) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Samples(output_).empty(); })) << "threads are back";
 }
 
-TEST_F(SoundOnDisk, ADeviceThatHangsDelaysNobody) {
+TEST_F(SoundPlayerTest, ADeviceThatHangsDelaysNobody) {
     ASSERT_EQ(mkfifo(qPrintable(output_), 0600), 0);
     QElapsedTimer time;
     time.start();

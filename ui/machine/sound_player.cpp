@@ -1,6 +1,7 @@
 #include "ui/machine/sound_player.h"
 
-#include <QLibrary>
+#include <dlfcn.h>
+
 #include <chrono>
 #include <cstdlib>
 #include <system_error>
@@ -15,10 +16,10 @@ using namespace std::chrono_literals;
 
 constexpr auto kFarewell = 1s;  // a healthy device opens, plays the click and closes in half of that
 
-void Work(const QString& module, SoundOrders& orders) {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a library gives its functions so
-    if (auto* play = reinterpret_cast<PlayRecordingsFunction*>(QLibrary::resolve(module, "PlayRecordings"))) {
-        play(orders);
+void Work(const std::string& module, SoundOrders& orders) {
+    if (void* library = dlopen(module.c_str(), RTLD_NOW)) {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a library gives its functions so
+        reinterpret_cast<PlayRecordingsFunction*>(dlsym(library, "PlayRecordings"))(orders);
     }
     const std::lock_guard lock(orders.mutex);
     orders.ended = true;
@@ -32,7 +33,7 @@ void QuietenSoundServers() {
     setenv("PIPEWIRE_DEBUG", "0", 0);
 }
 
-SoundPlayer::SoundPlayer(QString module)
+SoundPlayer::SoundPlayer(std::string module)
     : module_(std::move(module)), orders_(std::make_shared<SoundOrders>()) {}
 
 SoundPlayer::~SoundPlayer() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <memory>
+#include <string>
 #include <thread>
 
 #include "ui/machine/sounds.h"
@@ -22,8 +22,8 @@ void QuietenSoundServers();
 /// is silent; nothing is reported.
 class SoundPlayer final : public Sounds {
 public:
-    /// `module` is the path of the sound module.
-    explicit SoundPlayer(QString module);
+    /// `module` is the file of the sound module.
+    explicit SoundPlayer(std::string module);
 
     /// Lets a click finish and cuts anything else off. Waits until the device is closed, but no longer than a
     /// second: a device that hangs is left behind.
@@ -37,7 +37,7 @@ public:
 private:
     void StartThread();
 
-    QString module_;
+    std::string module_;
     std::shared_ptr<SoundOrders> orders_;  // shared with the thread, which may outlive this object
     std::thread thread_;
 };
