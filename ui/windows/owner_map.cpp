@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "ui/windows/map_lines.h"
 #include "ui/windows/owner_colours.h"
@@ -163,46 +164,48 @@ void OwnerMap::MixColours() {
 
 void OwnerMap::Compose(const QRect& part) {
     const QRect pixels = Pixels(part).intersected(composed_.rect());
-    LayFronts(part, pixels);
-    FillLand(pixels);
+    FillLand(pixels, FromFronts(part, pixels));
     // The same pixels, to be counted as such
     QImage canvas(composed_.bits(), composed_.width(), composed_.height(), composed_.bytesPerLine(),
                   composed_.format());
     QPainter(&canvas).drawPixmap(pixels, picture_.At(ratio_), pixels);
 }
 
-/// Leaves in every pixel of the part its distance from the nearest front.
-void OwnerMap::LayFronts(const QRect& part, const QRect& pixels) {
-    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(composed_.scanLine(y));
-        std::fill(line + pixels.left(), line + pixels.right() + 1, static_cast<QRgb>(Far));
-    }
+/// The distance of every pixel of the part, row by row, from the nearest front.
+std::vector<std::uint8_t> OwnerMap::FromFronts(const QRect& part, const QRect& pixels) const {
+    std::vector<std::uint8_t> distances(static_cast<std::size_t>(pixels.width() * pixels.height()), Far);
     for (const Border& border : borders_) {
         if (owners_[border.Sides[0]] == owners_[border.Sides[1]] || !border.Box.intersects(part)) {
             continue;
         }
         for (const Beside& beside : border.Pixels) {
             if (pixels.contains(beside.X, beside.Y)) {
-                QRgb& pixel = reinterpret_cast<QRgb*>(composed_.scanLine(beside.Y))[beside.X];
-                pixel = std::min(pixel, static_cast<QRgb>(beside.Distance));
+                const int place = (beside.Y - pixels.top()) * pixels.width() + beside.X - pixels.left();
+                std::uint8_t& distance = distances[static_cast<std::size_t>(place)];
+                distance = std::min(distance, beside.Distance);
             }
         }
     }
+    return distances;
 }
 
-/// Turns the distances into colours.
-void OwnerMap::FillLand(const QRect& pixels) {
+void OwnerMap::FillLand(const QRect& pixels, const std::vector<std::uint8_t>& distances) {
+    std::vector<QRgb> row(static_cast<std::size_t>(pixels.width()));
+    auto distance = distances.begin();
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         const uchar* number = numbers_.constScanLine(y) + pixels.left();
-        auto* pixel = reinterpret_cast<QRgb*>(composed_.scanLine(y)) + pixels.left();
-        for (int i = 0; i < pixels.width(); ++i, ++number, ++pixel) {
+        for (QRgb& pixel : row) {
             if (*number == 0) {
-                *pixel = UnderTheSea;
+                pixel = UnderTheSea;
             } else {
                 const auto owner = static_cast<std::size_t>(owners_[*number - 1U]);
-                *pixel = colours_[owner][*pixel];
+                pixel = colours_[owner][*distance];
             }
+            ++number;
+            ++distance;
         }
+        std::memcpy(composed_.scanLine(y) + static_cast<std::size_t>(pixels.left()) * sizeof(QRgb),
+                    row.data(), row.size() * sizeof(QRgb));
     }
 }
 

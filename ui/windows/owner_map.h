@@ -45,9 +45,9 @@ private:
     };
 
     struct Border {
-        std::array<std::size_t, 2> Sides;  // territory indices
-        QPolygonF Line;                    // in pixels of the board
-        QRect Box;                         // round all that lies beside it
+        std::array<std::size_t, 2> Sides{};  // territory indices
+        QPolygonF Line;                      // in pixels of the board
+        QRect Box;                           // round all that lies beside it
         std::vector<Beside> Pixels;
     };
 
@@ -57,8 +57,8 @@ private:
     void Measure(Border& border) const;
     void MixColours();
     void Compose(const QRect& part);
-    void LayFronts(const QRect& part, const QRect& pixels);
-    void FillLand(const QRect& pixels);
+    std::vector<std::uint8_t> FromFronts(const QRect& part, const QRect& pixels) const;
+    void FillLand(const QRect& pixels, const std::vector<std::uint8_t>& distances);
 
     const Picture& picture_;
     const TerritoryMap& territories_;
