@@ -127,7 +127,7 @@ void GameScreens::SetCommands(CommandSet available) {
 }
 
 void GameScreens::SetBoardTitle(const std::string& title) {
-    board_->setWindowTitle(Displayed(title));
+    board_->SetTitle(title);
 }
 
 void GameScreens::ShowGameOver() {

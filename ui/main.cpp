@@ -5,7 +5,8 @@
 #include "ui/machine/single_copy.h"
 #include "ui/machine/sound_player.h"
 #include "ui/parts/accessible.h"
-#include "ui/parts/held_keys.h"
+#include "ui/parts/input_filter.h"
+#include "ui/parts/look.h"
 #include "ui/program.h"
 
 namespace {
@@ -25,6 +26,7 @@ int main(int, char** arguments) {
     QApplication::setApplicationName(QStringLiteral("vorlund"));
     QApplication::setApplicationVersion(QStringLiteral(VORLUND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
+    QApplication::setWindowIcon(vorlund::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 
     // It goes last: the click of Exit is still heard when the windows are gone and another copy may start.
@@ -33,8 +35,7 @@ int main(int, char** arguments) {
     if (copy.OtherIsRunning()) {
         return AnotherCopyRuns;
     }
-    vorlund::HeldKeys heldKeys;
-    qApp->installEventFilter(&heldKeys);
+    const vorlund::InputFilter inputFilter;
     vorlund::DescribeScreensToAssistiveTechnology();
     vorlund::GameState game;
     vorlund::ClockRandom random;

@@ -10,27 +10,35 @@
 namespace vorlund {
 namespace {
 
-/// A command, or one of several choices.
-class AccessibleCommand final : public QAccessibleWidget {
+/// A command, one of several choices, or a toggle.
+class AccessibleButton final : public QAccessibleWidget {
 public:
-    explicit AccessibleCommand(CommandLabel& command) : QAccessibleWidget(&command), command_(command) {}
+    explicit AccessibleButton(Button& button) : QAccessibleWidget(&button), button_(button) {}
 
     QAccessible::Role role() const override {
-        return command_.isCheckable() ? QAccessible::RadioButton : QAccessible::Button;
+        if (!button_.isCheckable()) {
+            return QAccessible::Button;
+        }
+        return button_.autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
     }
 
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        state.checkable = command_.isCheckable();
-        state.checked = command_.isChecked();
+        state.checkable = button_.isCheckable();
+        state.checked = button_.isChecked();
         return state;
     }
 
     QString text(QAccessible::Text what) const override {
-        if (what == QAccessible::Name) {
-            return command_.text().remove(u'&');
+        if (const auto* command = qobject_cast<const CommandLabel*>(&button_)) {
+            if (what == QAccessible::Name) {
+                return command->text().remove(u'&');
+            }
+            if (what == QAccessible::Accelerator) {
+                return command->Key();
+            }
         }
-        return what == QAccessible::Accelerator ? command_.Key() : QAccessibleWidget::text(what);
+        return QAccessibleWidget::text(what);
     }
 
     QStringList actionNames() const override {
@@ -39,20 +47,20 @@ public:
 
     void doAction(const QString& action) override {
         if (action == pressAction()) {
-            // Later, because a command may wait for the answer to a message box, and who pressed it with it.
-            QMetaObject::invokeMethod(&command_, &CommandLabel::click, Qt::QueuedConnection);
+            // Not at once: a command may wait for the answer to a message box, and the caller with it.
+            button_.PressByEvent();
         } else {
             QAccessibleWidget::doAction(action);
         }
     }
 
 private:
-    CommandLabel& command_;
+    Button& button_;
 };
 
 QAccessibleInterface* Describe(const QString&, QObject* object) {
-    if (auto* command = qobject_cast<CommandLabel*>(object)) {
-        return new AccessibleCommand(*command);
+    if (auto* button = qobject_cast<Button*>(object)) {
+        return new AccessibleButton(*button);
     }
     if (auto* screen = qobject_cast<Screen*>(object)) {
         return new QAccessibleWidget(screen, screen->Role());

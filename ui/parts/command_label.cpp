@@ -1,9 +1,9 @@
 #include "ui/parts/command_label.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "ui/parts/keys.h"
 #include "ui/parts/look.h"
 
 namespace vorlund {
@@ -21,14 +21,15 @@ constexpr int MarkWidth = 16;  // the ring of a choice, left of its text
 
 CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QString& caption,
                            const QRect& box)
-    : QAbstractButton(parent) {
+    : Button(parent) {
     setObjectName(objectName);
     setText(caption);
+    setShortcut({});  // "&" underlines the letter that runs the command; Alt with it does not
     setGeometry(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
     // The plate has room for a little more than the box: letters are left as they are if they fit there.
-    setFont(Fitted(FontOf(Face::Command), caption, box.width() + PlateX));
+    setFont(Fitted(FontOf(Face::Command), QString(caption).remove(u'&'), box.width() + PlateX));
 }
 
 void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
@@ -107,18 +108,8 @@ void CommandLabel::paintEvent(QPaintEvent*) {
     painter.drawText(box, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, text());
 }
 
-bool CommandLabel::event(QEvent* event) {
-    if (event->type() == QEvent::Shortcut) {
-        // At once: the toolkit's own click comes a tenth of a second later, whatever has opened or closed
-        // since.
-        click();
-        return true;
-    }
-    return QAbstractButton::event(event);
-}
-
 void CommandLabel::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
+    Button::enterEvent(event);
     if (isEnabled()) {
         Become(State::Hover);
         emit Lit();
@@ -126,7 +117,7 @@ void CommandLabel::enterEvent(QEnterEvent* event) {
 }
 
 void CommandLabel::mouseMoveEvent(QMouseEvent* event) {
-    QAbstractButton::mouseMoveEvent(event);
+    Button::mouseMoveEvent(event);
     if (isEnabled()) {
         Become(State::Hover);
         emit Lit();
@@ -135,7 +126,7 @@ void CommandLabel::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CommandLabel::mousePressEvent(QMouseEvent* event) {
-    QAbstractButton::mousePressEvent(event);
+    Button::mousePressEvent(event);
     if (isEnabled()) {
         Become(State::Pressed);
     }
@@ -143,17 +134,15 @@ void CommandLabel::mousePressEvent(QMouseEvent* event) {
 }
 
 void CommandLabel::keyPressEvent(QKeyEvent* event) {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !isCheckable()) {
-        if (!event->isAutoRepeat()) {
-            click();
-        }
-        return;
+    if (IsEnter(*event) && !isCheckable()) {
+        click();
+    } else {
+        Button::keyPressEvent(event);
     }
-    QAbstractButton::keyPressEvent(event);
 }
 
 void CommandLabel::changeEvent(QEvent* event) {
-    QAbstractButton::changeEvent(event);
+    Button::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) {
         state_ = State::Rest;
         update();

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QString>
+
+#include "ui/parts/button.h"
 
 namespace vorlund {
 
@@ -9,7 +10,7 @@ namespace vorlund {
 /// once a mouse button has gone down on it, until the pointer moves. Behind the letters lies a plate that
 /// turns from light to dark with them, so that they can be read in each state whatever the screen shows. A
 /// disabled command is greyed and takes no notice of the mouse.
-class CommandLabel : public QAbstractButton {
+class CommandLabel : public Button {
     Q_OBJECT
 
 public:
@@ -18,7 +19,7 @@ public:
     static constexpr int PlateY = 2;
 
     /// `box` is the place of the text. In `caption` a letter behind "&" is the access letter and is
-    /// underlined.
+    /// underlined; it is no accelerator.
     CommandLabel(QWidget* parent, const QString& objectName, const QString& caption, const QRect& box);
 
     /// Enables the command, or disables it for the reason that its tooltip then gives.
@@ -31,14 +32,11 @@ public:
     /// Puts the command back to its colour at rest.
     void Rest();
 
-    QSize sizeHint() const override { return size(); }
-
 signals:
     /// The pointer has come to, or moved over, this enabled command.
     void Lit();
 
 protected:
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

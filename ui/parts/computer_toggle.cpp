@@ -7,7 +7,7 @@
 namespace vorlund {
 
 ComputerToggle::ComputerToggle(QWidget* parent, const QString& objectName, const QRect& frame)
-    : QAbstractButton(parent) {
+    : Button(parent) {
     setObjectName(objectName);
     setGeometry(frame);
     setCheckable(true);
@@ -32,12 +32,12 @@ void ComputerToggle::paintEvent(QPaintEvent*) {
 }
 
 void ComputerToggle::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
+    Button::enterEvent(event);
     update();
 }
 
 void ComputerToggle::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
+    Button::leaveEvent(event);
     update();
 }
 

@@ -1,18 +1,17 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QString>
+
+#include "ui/parts/button.h"
 
 namespace vorlund {
 
 /// The small picture button beside a name: on, the computer plays that row.
-class ComputerToggle : public QAbstractButton {
+class ComputerToggle : public Button {
     Q_OBJECT
 
 public:
     ComputerToggle(QWidget* parent, const QString& objectName, const QRect& frame);
-
-    QSize sizeHint() const override { return size(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

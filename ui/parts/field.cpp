@@ -1,6 +1,6 @@
 #include "ui/parts/field.h"
 
-#include <QKeyEvent>
+#include "ui/parts/keys.h"
 
 namespace vorlund {
 
@@ -43,13 +43,11 @@ void Field::focusInEvent(QFocusEvent* event) {
 }
 
 void Field::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (!event->isAutoRepeat()) {
-            emit Entered();
-        }
-        return;
+    if (IsEnter(*event)) {
+        emit Entered();
+    } else {
+        QLineEdit::keyPressEvent(event);
     }
-    QLineEdit::keyPressEvent(event);
 }
 
 }  // namespace vorlund

@@ -7,7 +7,7 @@
 namespace vorlund {
 
 /// A text field of a dialog. It takes any characters up to its length; Enter, on the keypad as well, is a
-/// request of its own, and a held Enter key asks once.
+/// request of its own.
 class Field : public QLineEdit {
     Q_OBJECT
 

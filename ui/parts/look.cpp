@@ -21,7 +21,7 @@ int WidestLine(const QFont& font, const QString& text) {
     const QFontMetrics metrics(font);
     int widest = 0;
     for (const QString& line : text.split(u'\n')) {
-        widest = std::max(widest, metrics.size(Qt::TextShowMnemonic, line).width());
+        widest = std::max(widest, metrics.size(Qt::TextSingleLine, line).width());
     }
     return widest;
 }
@@ -113,6 +113,14 @@ QPixmap LoadPicture(const QString& name, qreal ratio) {
     }
     picture.setDevicePixelRatio(ratio);
     return picture;
+}
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        icon.addFile(QStringLiteral(":/icons/vorlund-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
 }
 
 }  // namespace vorlund

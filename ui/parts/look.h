@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QIcon>
 #include <QPixmap>
 #include <QString>
 #include <string_view>
@@ -37,5 +38,8 @@ QString Displayed(std::string_view text);
 
 /// The picture of the program called `name`, sharp at a device pixel ratio of `ratio`.
 QPixmap LoadPicture(const QString& name, qreal ratio);
+
+/// The program's icon, for its windows: also where the program is not installed and the desktop has none.
+QIcon ProgramIcon();
 
 }  // namespace vorlund

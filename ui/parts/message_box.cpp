@@ -2,18 +2,31 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QWindow>
 
 #include "ui/parts/look.h"
+#include "ui/parts/screen.h"
 
 namespace vorlund {
 namespace {
 
-/// Keeps everything from the other windows until the answer has reached whoever asked. Their being blocked by
-/// the box ends when it closes, a moment earlier, and what was typed ahead could then close the very window
-/// that waits.
-class Attention : public QObject {
+/// The screen that `object` is, shows or belongs to.
+const Screen* ScreenOf(QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    const auto* window = qobject_cast<QWindow*>(object);
+    if (window != nullptr && window->handle() != nullptr) {
+        widget = QWidget::find(window->winId());
+    }
+    return widget != nullptr ? qobject_cast<const Screen*>(widget->window()) : nullptr;
+}
+
+/// While a message box waits, and until its answer has reached whoever asked, no other window of the game
+/// takes keys, clicks, presses by accelerators or assistive technology, or requests to close; CloseOutright
+/// alone closes one. The box's own modality is not enough: it ends when the box closes, a moment before the
+/// answer arrives, and it does not hold for a window that is itself in the middle of closing.
+class Gate : public QObject {
 public:
-    explicit Attention(const QWidget& box) : box_(box) { qApp->installEventFilter(this); }
+    Gate() { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         switch (event->type()) {
@@ -27,16 +40,13 @@ public:
             default:
                 return false;
         }
-        const auto* widget = qobject_cast<const QWidget*>(watched);
-        if (widget == nullptr || widget == &box_ || box_.isAncestorOf(widget)) {
+        const Screen* screen = ScreenOf(watched);
+        if (screen == nullptr || (event->type() == QEvent::Close && screen->ClosesOutright())) {
             return false;
         }
         event->ignore();
         return true;
     }
-
-private:
-    const QWidget& box_;
 };
 
 int Answer(QWidget* owner, QMessageBox::Icon icon, const QString& title, const std::string& text,
@@ -44,7 +54,10 @@ int Answer(QWidget* owner, QMessageBox::Icon icon, const QString& title, const s
     QMessageBox box(icon, title, Displayed(text), buttons, owner);
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
-    const Attention attention(box);
+    const auto safe = buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Ok;
+    box.setDefaultButton(safe);
+    box.setEscapeButton(safe);
+    const Gate gate;
     return box.exec();
 }
 

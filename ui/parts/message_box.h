@@ -15,7 +15,7 @@ void Exclaim(QWidget* owner, const std::string& text);
 /// A confirmation.
 void Inform(QWidget* owner, const std::string& text);
 
-/// A question without an icon; true when it was answered with Yes.
+/// A question without an icon; true when it was answered with Yes. Enter and Escape say No.
 bool Ask(QWidget* owner, const std::string& text, const QString& title = QStringLiteral("Vorlund"));
 
 /// The same with a question icon, for leaving a game under way.

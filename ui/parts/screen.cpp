@@ -13,14 +13,22 @@ namespace {
 constexpr int FieldHeight = 19;
 constexpr int FocusRing = 3;  // pixels round a field
 
-constexpr auto FixedSizeWindow = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint;
+Qt::WindowFlags WithFrame(Qt::WindowFlags flags) {
+    if (flags.testFlag(Qt::FramelessWindowHint)) {
+        return flags;
+    }
+    flags |=
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    // A minimised dialog or report would leave a board without commands and no way back.
+    const bool dialog = (flags & Qt::WindowType_Mask) == Qt::Dialog;
+    return dialog ? flags : flags | Qt::WindowMinimizeButtonHint;
+}
 
 }  // namespace
 
 Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize size,
                const QString& background, Qt::WindowFlags flags)
-    : QWidget(owner, flags.testFlag(Qt::FramelessWindowHint) ? flags : flags | FixedSizeWindow),
+    : QWidget(owner, WithFrame(flags)),
       background_(background.isEmpty() ? name : background),
       role_(windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window) {
     setObjectName(name);
@@ -52,15 +60,20 @@ void Screen::CloseOutright() {
 }
 
 void Screen::Present() {
-    if (!placed_ && parentWidget() == nullptr && screen() != nullptr) {
+    if (!testAttribute(Qt::WA_Moved) && parentWidget() == nullptr && screen() != nullptr) {
         QRect place(QPoint(0, 0), size());
         place.moveCenter(screen()->availableGeometry().center());
         move(place.topLeft());
     }
-    placed_ = true;
+    ++timesPresented_;
+    RestCommands();
     show();
     raise();
     activateWindow();
+}
+
+void Screen::SetTitle(std::string_view title) {
+    setWindowTitle(Displayed(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 TextLabel* Screen::AddText(const QString& name, Face face, const QRect& frame, std::string_view text) {

@@ -30,9 +30,15 @@ public:
     /// Closes the window without asking what closing it means.
     void CloseOutright();
 
-    /// Shows the window, in front and with the keyboard. A window without an owner comes up in the middle of
-    /// the desktop.
+    bool ClosesOutright() const { return outright_; }
+
+    /// Shows the window, in front and with the keyboard, its commands at rest. A window without an owner that
+    /// has not been moved comes up in the middle of the desktop.
     void Present();
+    int TimesPresented() const { return timesPresented_; }
+
+    /// Sets the window's title to a text of the rules, which may hold the toolkit's placeholder "[*]".
+    void SetTitle(std::string_view title);
 
     /// What the window is to a screen reader.
     QAccessible::Role Role() const { return role_; }
@@ -77,7 +83,7 @@ private:
     std::vector<CommandLabel*> commands_;
     bool oneAtATime_ = false;
     bool outright_ = false;
-    bool placed_ = false;
+    int timesPresented_ = 0;
 };
 
 /// Moves `window` over `owner`, in its middle from left to right and with its lower edge `bottom` pixels

@@ -92,20 +92,23 @@ bool frm1::CloseRequested() {
 }
 
 void frm1::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     // Where the desktop does not offer to move the window, it follows the pointer by its own steps.
     grip_ = event->globalPosition().toPoint() - pos();
     dragging_ = windowHandle() == nullptr || !windowHandle()->startSystemMove();
 }
 
 void frm1::mouseMoveEvent(QMouseEvent* event) {
-    if (dragging_ && event->buttons() != Qt::NoButton) {
+    if (dragging_ && event->buttons().testFlag(Qt::LeftButton)) {
         move(event->globalPosition().toPoint() - grip_);
     }
     Screen::mouseMoveEvent(event);
 }
 
-void frm1::mouseReleaseEvent(QMouseEvent*) {
-    dragging_ = false;
+void frm1::mouseReleaseEvent(QMouseEvent* event) {
+    dragging_ = dragging_ && event->button() != Qt::LeftButton;
 }
 
 }  // namespace vorlund

@@ -1,12 +1,12 @@
 #include "ui/windows/frm2.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <string>
 #include <vector>
 
 #include "savegame/format.h"
 #include "setup/new_game.h"
+#include "ui/parts/keys.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/title_navigation.h"
 
@@ -128,12 +128,12 @@ bool frm2::CloseRequested() {
 }
 
 void frm2::keyPressEvent(QKeyEvent* event) {
-    // Enter on one of the choices: their labels leave it to the window.
-    if (choosing_ && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    // Enter on a choice or a computer toggle, which leave it to the window
+    if (IsEnter(*event)) {
         Cont();
-        return;
+    } else {
+        Screen::keyPressEvent(event);
     }
-    Screen::keyPressEvent(event);
 }
 
 }  // namespace vorlund

@@ -1,7 +1,6 @@
 #include "ui/windows/frm3.h"
 
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -11,6 +10,7 @@
 
 #include "state/world.h"
 #include "turn/turn_cycle.h"
+#include "ui/parts/keys.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/game_navigation.h"
 #include "ui/windows/territory_text.h"
@@ -123,7 +123,7 @@ void frm3::AddCommandBar() {
 
 void frm3::Open() {
     if (game_.GameLoaded) {
-        setWindowTitle(Displayed(TurnTitle(game_)));
+        SetTitle(TurnTitle(game_));
         RefreshMap();
         SetCommands(AvailableCommands(game_));
     } else {
@@ -244,9 +244,9 @@ void frm3::ShowTerritoryTip(const QHelpEvent& event) {
 }
 
 void frm3::keyPressEvent(QKeyEvent* event) {
-    const QString typed = event->text().toLower();
+    const QString typed = IsPlain(*event) ? event->text().toLower() : QString();
     for (const Command command : AllCommands) {
-        if (!event->isAutoRepeat() && typed == LetterOf(command)) {
+        if (typed == LetterOf(command)) {
             Run(command);
             return;
         }

@@ -1,10 +1,10 @@
 #include "ui/windows/frmLoad.h"
 
 #include <QEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include "savegame/game_name.h"
+#include "ui/parts/keys.h"
 #include "ui/parts/message_box.h"
 #include "ui/windows/title_navigation.h"
 
@@ -110,16 +110,12 @@ bool frmLoad::CloseRequested() {
 
 void frmLoad::keyPressEvent(QKeyEvent* event) {
     // Keys that the list leaves to the window
-    switch (event->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            CallLoad(0);
-            break;
-        case Qt::Key_Delete:
-            CallLoad(1);
-            break;
-        default:
-            Screen::keyPressEvent(event);
+    if (IsEnter(*event)) {
+        CallLoad(0);
+    } else if (event->key() == Qt::Key_Delete) {
+        CallLoad(1);
+    } else {
+        Screen::keyPressEvent(event);
     }
 }
 

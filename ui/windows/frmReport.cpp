@@ -2,11 +2,11 @@
 
 #include <QAccessible>
 #include <QFontMetrics>
-#include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWindow>
 
+#include "ui/parts/keys.h"
 #include "ui/windows/game_navigation.h"
 
 namespace vorlund {
@@ -48,7 +48,7 @@ frmReport::frmReport(GameNavigation& navigation)
 }
 
 void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* owner) {
-    setWindowTitle(Displayed(report.Title));
+    SetTitle(report.Title);
     imgC_->Show(picture);
     imgC_->setVisible(picture != nullptr);
     lbl1_->setGeometry(HeadlineFrame);
@@ -108,10 +108,9 @@ bool frmReport::Scroll(int key) {
 }
 
 void frmReport::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
+    if (IsEnter(*event) || event->key() == Qt::Key_Escape) {
         close();
-    } else if (!Scroll(key)) {
+    } else if (!Scroll(event->key())) {
         Screen::keyPressEvent(event);
     }
 }

@@ -1,8 +1,7 @@
 #include "ui/windows/frmStatus.h"
 
-#include <QKeyEvent>
-
 #include "actions/status.h"
+#include "ui/parts/keys.h"
 
 namespace vorlund {
 namespace {
@@ -15,7 +14,7 @@ constexpr int LineHeight = 22;
 frmStatus::frmStatus(DialogHost& host, const GameState& game, const Picture& marker)
     : CommandDialog(host, QStringLiteral("frmStatus"), {}, Size) {
     const StatusLines lines = DescribeStatus(game);
-    setWindowTitle(Displayed(lines.Title));
+    SetTitle(lines.Title);
     struct Row {
         const char* Caption = nullptr;
         const char* Control = nullptr;
@@ -51,11 +50,11 @@ frmStatus::frmStatus(DialogHost& host, const GameState& game, const Picture& mar
 }
 
 void frmStatus::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnter(*event)) {
         close();
-        return;
+    } else {
+        CommandDialog::keyPressEvent(event);
     }
-    CommandDialog::keyPressEvent(event);
 }
 
 }  // namespace vorlund

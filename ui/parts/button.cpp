@@ -1,0 +1,34 @@
+#include "ui/parts/button.h"
+
+#include <QCoreApplication>
+#include <QShortcutEvent>
+
+#include "ui/parts/keys.h"
+
+namespace vorlund {
+
+void Button::PressByEvent() {
+    QCoreApplication::postEvent(this, new QShortcutEvent({}, 0));
+}
+
+bool Button::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        // At once: the toolkit's own click comes a tenth of a second later, whatever has opened or closed
+        // since.
+        if (isVisible()) {
+            click();
+        }
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
+void Button::keyPressEvent(QKeyEvent* event) {
+    if (IsEnter(*event)) {
+        event->ignore();
+    } else {
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+}  // namespace vorlund

@@ -1,0 +1,121 @@
+#include "ui/parts/input_filter.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QStyleHints>
+
+#include "ui/parts/keys.h"
+#include "ui/parts/screen.h"
+
+namespace vorlund {
+namespace {
+
+bool Moves(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool Edits(const QKeyEvent& event) {
+    constexpr auto commands = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
+    return !IsEnter(event) && event.key() != Qt::Key_Escape && (event.modifiers() & commands) == 0;
+}
+
+QWidget* ControlAt(QWindow& window, QPoint place) {
+    QWidget* widget = QWidget::find(window.winId());
+    QWidget* child = widget != nullptr ? widget->childAt(place) : nullptr;
+    return child != nullptr ? child : widget;
+}
+
+int TimesPresented(const QWidget* control) {
+    const auto* screen = control != nullptr ? qobject_cast<const Screen*>(control->window()) : nullptr;
+    return screen != nullptr ? screen->TimesPresented() : 0;
+}
+
+}  // namespace
+
+InputFilter::InputFilter() {
+    qApp->installEventFilter(this);
+}
+
+bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Hide:
+        case QEvent::EnabledChange:
+            if (watched == press_.Target) {
+                press_.Target = nullptr;
+            }
+            return false;
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (watched->isWindowType() &&
+                Drops(*static_cast<QWindow*>(watched), *static_cast<QKeyEvent*>(event))) {
+                event->accept();  // an override that nobody accepts would run the accelerator
+                return true;
+            }
+            return false;
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseButtonRelease:
+            return watched->isWindowType() &&
+                   Drops(*static_cast<QWindow*>(watched), *static_cast<QMouseEvent*>(event));
+        default:
+            return false;
+    }
+}
+
+bool InputFilter::Drops(QWindow& window, const QKeyEvent& event) {
+    // Keys without a scan code are made by programs, which may let go and press again within a millisecond.
+    const quint32 scanCode = event.nativeScanCode();
+    const bool real = scanCode != 0;
+    Key& key = keys_[real ? scanCode : quint64(event.key()) << 32];
+    if (event.type() == QEvent::KeyRelease) {
+        key.Released = true;
+        key.ReleaseTime = event.timestamp();
+        return false;
+    }
+    QWidget* focus = QApplication::focusWidget();
+    const bool repeats =
+        event.isAutoRepeat() || (real && key.Released && key.ReleaseTime == event.timestamp());
+    if (!repeats) {
+        key.Window = &window;
+        key.Focus = focus;
+        return false;
+    }
+    const bool inField = focus != nullptr && focus == key.Focus && qobject_cast<QLineEdit*>(focus) != nullptr;
+    return key.Window != &window || !(Moves(event) || (inField && Edits(event)));
+}
+
+bool InputFilter::Drops(QWindow& window, const QMouseEvent& event) {
+    if (event.type() != QEvent::MouseButtonPress) {
+        // The release, and the double click that follows its press as an event of its own
+        return press_.Dropped && event.button() == press_.Button;
+    }
+    QWidget* target = ControlAt(window, event.position().toPoint());
+    const Press now{target, TimesPresented(target), event.button(), event.globalPosition().toPoint(),
+                    static_cast<ulong>(event.timestamp())};
+    const Press before = std::exchange(press_, now);
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    const bool second = now.Button == before.Button &&
+                        now.Time - before.Time < static_cast<ulong>(hints.mouseDoubleClickInterval()) &&
+                        (now.Place - before.Place).manhattanLength() <= hints.mouseDoubleClickDistance();
+    const bool sameTarget = now.Target == before.Target && now.Presented == before.Presented;
+    press_.Dropped = second && (before.Dropped || !sameTarget);
+    return press_.Dropped;
+}
+
+}  // namespace vorlund
