@@ -5,7 +5,7 @@
 #include "tests/engine/games.h"
 #include "tests/engine/seeded_random.h"
 #include "ui/machine/sound_player.h"
-#include "ui/parts/held_keys.h"
+#include "ui/parts/input_filter.h"
 #include "ui/program.h"
 #include "ui/windows/command_dialog.h"
 #include "ui/windows/frm3.h"
@@ -273,8 +273,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     qInstallMessageHandler(vorlund::TakeMessage);
-    vorlund::HeldKeys heldKeys;
-    qApp->installEventFilter(&heldKeys);
+    const vorlund::InputFilter inputFilter;
     int seed = qEnvironmentVariable("VORLUND_SEED", "1").toInt();
     for (int left = qEnvironmentVariable("VORLUND_EVENTS", "200000").toInt(); left > 0; ++seed) {
         left -= vorlund::Monkey(seed).Play(left);

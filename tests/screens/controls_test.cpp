@@ -29,7 +29,7 @@ QPoint MarkerOf(std::size_t number) {
 
 GameState AnnaAndBen(const std::string& more = "") {
     GameState game = NewGame(2, "7 Anna 12/1F; 16 Ben 1/0D; Anna Money 1000" + more);
-    game.PlayerAt(0).Name = "<b>Anna";
+    game.PlayerAt(0).Name = "<b>Anna[*]";
     return game;
 }
 
@@ -37,7 +37,7 @@ GameState AnnaAndBen(const std::string& more = "") {
 QString Tabs() {
     QStringList stops;
     const auto focus = [] { return QApplication::focusWidget(); };
-    Type({});
+    Keyboard();
     while (QTest::qWaitFor([&] { return focus() != nullptr; }) && !stops.contains(focus()->objectName()) &&
            stops.size() < 12) {
         const QWidget& here = *focus();
@@ -89,7 +89,7 @@ TEST(Controls, TheTabKeyLeadsToEverything) {
         Type("\033");
     }
     Type("\t\n");  // on a command, Enter runs it
-    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [] | Vorlund - Buy");
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna[*]'s turn [] | Vorlund - Buy");
     Type("\033u");
     Press(Qt::Key_3, Qt::AltModifier);
     EXPECT_EQ(sitting.Game().PlayerAt(0).NuclearLevel, 1);
@@ -122,6 +122,30 @@ TEST(Controls, AReportScrollsAndTheNextBeginsAtItsTop) {
     EXPECT_EQ(bar.value(), 0);
 }
 
+TEST(Controls, EveryReportComesOverTheBoardWithContinueAtRest) {
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    const auto middle = [](const char* window) { return Window(window).frameGeometry().center().x(); };
+    Window("frm3").move(Window("frm3").pos() - QPoint(20, 90));  // not in the middle of the desktop
+    Type("b7\t1\n");
+    const QImage rest = Control("frmReport", "lblCont").grab().toImage();
+    EXPECT_NEAR(middle("frmReport"), middle("frm3"), 4);
+    PointAt("frmReport", Control("frmReport", "lblCont").geometry().center());
+    EXPECT_NE(Control("frmReport", "lblCont").grab().toImage(), rest);
+    Click("frm3", "lblEndTurn");
+    EXPECT_EQ(Control("frmReport", "lblCont").grab().toImage(), rest);
+}
+
+TEST(Controls, WhatTakesTheCommandsFromTheBoardCannotBeMinimised) {
+    Sitting sitting;
+    sitting.Resume(AnnaAndBen());
+    for (const char* keys : {"b", "s", "r", "a", "u", "t", "v", "e"}) {
+        Type(keys);
+        EXPECT_FALSE(Keyboard().flags() & Qt::WindowMinimizeButtonHint) << keys;
+        Type("\033");
+    }
+}
+
 TEST(Controls, AClickOnTheMapTypesTheNumber) {
     const std::vector<std::array<QString, 3>> rows{{"b", "txtC1", "txtC1"},  {"s\t", "txtC1", "txtC1"},
                                                    {"r", "txtC1", "txtC2"},  {"r\t\t\t", "txtC2", "txtC2"},
@@ -131,11 +155,11 @@ TEST(Controls, AClickOnTheMapTypesTheNumber) {
     sitting.Resume(AnnaAndBen());
     for (const auto& [keys, field, next] : rows) {
         Type(keys);
-        QWidget& dialog = *QApplication::activeWindow();
+        const QWidget& dialog = *QWidget::find(Keyboard().winId());
         for (const QPoint place : {MarkerOf(35), Atlantic}) {  // in the sea there is nothing
             Click("frm3", place);
             EXPECT_EQ(Text(dialog.objectName(), field), "35") << keys.toStdString();
-            EXPECT_EQ(QApplication::focusWidget()->objectName(), next) << keys.toStdString();
+            EXPECT_EQ(dialog.focusWidget()->objectName(), next) << keys.toStdString();
         }
         Type("\033");
     }
@@ -146,7 +170,7 @@ TEST(Controls, TooltipsTellOfTerritoriesAndCommands) {
     sitting.Resume(AnnaAndBen(" FirstTurn 1 MovesLeft 0"));
     const std::vector<std::pair<QPoint, QString>> rows{
         {MarkerOf(7),
-         "7 Midwest USA\n&lt;b&gt;Anna (Player 1), 12 troops, 1 tank, factory\nValue 7, oil field\n"
+         "7 Midwest USA\n&lt;b&gt;Anna[*] (Player 1), 12 troops, 1 tank, factory\nValue 7, oil field\n"
          "Neighbours: 2 Vancouver Territory, 3 Montreal Territory, 6 Western USA,\n8 Eastern USA, 9 Mexico"},
         {MarkerOf(16),
          "16 England\nBen (Player 2), 1 troop, 0 tanks, defense\nValue 6\n"
@@ -226,7 +250,7 @@ TEST(Controls, SavingSaysWhatHasBecomeOfTheGame) {
     sitting.Expect(
         {"Warning: Game 'ab.vrs' saved, but a power cut now could still lose it.\n" + Reason(EIO)});
     Type("b\n");
-    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [bsrautev]");
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna[*]'s turn [bsrautev]");
 }
 
 TEST(Controls, AFolderThatCannotBeListedIsNotTakenForAnEmptyOne) {
@@ -266,7 +290,7 @@ TEST(Controls, ADoubleClickLoadsWhenTheButtonIsLetGo) {
     QTest::mouseDClick(view, Qt::LeftButton, {}, place);
     EXPECT_EQ(Desktop(), "Vorlund - Load Game");
     QTest::mouseRelease(view, Qt::LeftButton, {}, place);
-    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna's turn [bsrautev]");
+    EXPECT_EQ(Desktop(), "Vorlund - <b>Anna[*]'s turn [bsrautev]");
 }
 
 TEST(Controls, ClosingTheFirstScreensEndsTheProgram) {

@@ -4,7 +4,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include "tests/engine/seeded_random.h"
 #include "tests/rules/scripted_random.h"
 #include "tests/rules/small_worlds.h"
 #include "tests/screens/hands.h"
@@ -44,7 +43,7 @@ TEST(Crossings, ARefusalLeavesTheGameTheDialogAndItsEntries) {
         sitting.Expect({"Warning: " + message});
         Type(keys + u'\n');
         QStringList entries;
-        for (const QLineEdit* field : QApplication::activeWindow()->findChildren<QLineEdit*>()) {
+        for (const QLineEdit* field : QWidget::find(Keyboard().winId())->findChildren<QLineEdit*>()) {
             entries << field->text();
         }
         EXPECT_TRUE(entries.join('\t').startsWith(keys.mid(1))) << entries.join('|').toStdString();
@@ -121,23 +120,6 @@ TEST(Crossings, NobodyWinsByASale) {
     EXPECT_TRUE(Ends([] { Close("frm3"); }));
 }
 
-TEST(Crossings, NothingClosesWhileAWinnerIsAnnounced) {
-    Sitting sitting(std::make_unique<SeededRandom>(3));
-    sitting.Resume(NewGame(2, "27 Anna 1/0; 26 Ben 100/0; Ben IsComputer 1"));
-    sitting.Expect({"Warning: Player 2, Ben, wins the game!", "\n", [] {
-                        for (const char* window : {"frmReport", "frm3"}) {
-                            Close(window);
-                            Window(window).close();
-                        }
-                        EXPECT_TRUE(ReportText().endsWith("Player 1 is now dead.\n"));
-                    }});
-    Type("e");
-    EXPECT_EQ(Desktop(), "Vorlund - Ben wins [] | Computer player Ben's status");
-    EXPECT_TRUE(Control("frm3", "imgGameOver").isVisible());
-    Type("\nbe");
-    EXPECT_EQ(Desktop(), "Vorlund - Ben wins []");
-}
-
 // The windows that exist, in alphabetical order, whether they are seen or not.
 QString Existing() {
     QTest::qWait(1);
@@ -204,27 +186,6 @@ TEST(Crossings, HandsQuickerThanAClosing) {
     QTest::mouseDClick(Window("frmBuy").windowHandle(), Qt::LeftButton, {},
                        Control("frmBuy", "lblGo").geometry().center());
     EXPECT_EQ(sitting.Game().PlayerAt(0).Money, 990);  // one troop, not two
-}
-
-TEST(Crossings, HeldKeysDoNothing) {
-    const auto hold = [] {
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
-            QKeyEvent again(QEvent::KeyPress, key, {}, {}, true);
-            QApplication::sendEvent(QGuiApplication::focusWindow(), &again);
-        }
-    };
-    Sitting sitting;
-    sitting.Resume(Neighbours);
-    QKeyEvent heldLetter(QEvent::KeyPress, Qt::Key_B, {}, "b", true);
-    QApplication::sendEvent(&Window("frm3"), &heldLetter);
-    EXPECT_EQ(Desktop(), AnnasTurn);
-    Type("b");
-    hold();
-    EXPECT_EQ(Desktop(), Waiting + "Vorlund - Buy");
-    sitting.Expect({Nothing, "\n", hold});
-    Type("\n7\t1\n");
-    hold();
-    EXPECT_EQ(Desktop(), AnnasTurn + " | Vorlund - Buy");
 }
 
 }  // namespace

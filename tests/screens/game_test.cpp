@@ -190,6 +190,12 @@ TEST(Game, TheTitleFollowsThePointer) {
         GTEST_SKIP() << "here the desktop alone moves windows";
     }
     const QPoint before = title.pos();
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mousePress(title.windowHandle(), button, {}, {10, 10});
+        QTest::mouseMove(title.windowHandle(), {40, 30});
+        EXPECT_EQ(title.pos(), before);
+        QTest::mouseRelease(title.windowHandle(), button, {}, {10, 10});
+    }
     QTest::mousePress(title.windowHandle(), Qt::LeftButton, {}, {10, 10});
     QTest::mouseMove(title.windowHandle(), {40, 30});
     EXPECT_EQ(title.pos() - before, QPoint(30, 20));

@@ -38,19 +38,24 @@ const QList<QPointer<QWidget>>& Opened() {
     return opened;
 }
 
+}  // namespace
+
 QWindow& Keyboard() {
     QCoreApplication::processEvents();
     QWidget& front = *Opened().back();
-    if (!QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == front.windowHandle(); }, patience)) {
+    const auto hasIt = [&] { return QGuiApplication::focusWindow() == front.windowHandle(); };
+    if (!QTest::qWaitFor(hasIt, patience / 4)) {
+        // Keys that the X server has not seen tell the window manager nothing of whom a new window is for.
+        front.activateWindow();
+    }
+    if (!QTest::qWaitFor(hasIt, patience)) {
         // A display without a seat never gives it to anybody.
-        EXPECT_NE(QGuiApplication::platformName(), "offscreen")
+        EXPECT_EQ(QGuiApplication::platformName(), "wayland")
             << front.windowTitle().toStdString() << " does not have the keyboard";
         patience = 0;
     }
     return *front.windowHandle();
 }
-
-}  // namespace
 
 void SoundRecorder::PlayWave(Wave wave) {
     if (wave == Wave::Vrl1) {
@@ -66,7 +71,6 @@ Sitting::Sitting(std::unique_ptr<Random> chance, const QString& saves)
       chance_(std::move(chance)),
       savesFolder_(saves_.toStdString()),
       program_(game_, *chance_, savesFolder_, sounds_) {
-    qApp->installEventFilter(&heldKeys_);
     qApp->installEventFilter(this);
     beeps = 0;
     program_.Start();
@@ -123,7 +127,7 @@ void Sitting::Answer(QMessageBox& box) {
     }
     const Box due = expected_.front();
     expected_.pop_front();
-    const bool asks = due.Keys == "y" || due.Keys == "n";
+    const bool asks = box.text().endsWith('?') || box.text().endsWith("to return.");
     EXPECT_EQ(seen, due.Text);
     EXPECT_EQ(box.standardButtons(), asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
@@ -137,7 +141,7 @@ QString Desktop() {
     QCoreApplication::processEvents();
     QStringList titles;
     for (const auto& window : Opened()) {
-        titles << window->windowTitle();
+        titles << window->windowHandle()->title();
         if (window->objectName() == "frm3") {
             QString keys;
             for (const auto* command :

@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "ui/machine/sounds.h"
-#include "ui/parts/held_keys.h"
+#include "ui/parts/input_filter.h"
 #include "ui/program.h"
 
 /// How a text is printed when it is not the one that was due.
@@ -76,7 +76,7 @@ private:
 
     QTemporaryDir folder_;
     QString saves_;
-    HeldKeys heldKeys_;
+    InputFilter inputFilter_;
     GameState game_;
     std::unique_ptr<Random> chance_;
     SavedGamesFolder savesFolder_;
@@ -106,6 +106,7 @@ int Beeps();
 
 // What hands can do. Keys go to the window in front, which must have the keyboard.
 
+QWindow& Keyboard();  ///< the window in front, once it has the keyboard
 void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 void Type(const QString& keys);  ///< "\n" is Enter, "\t" the Tab key, "\033" Escape
 void Click(const QString& window, QPoint place);

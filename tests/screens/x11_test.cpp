@@ -1,0 +1,159 @@
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+#include <QWindow>
+
+#include "tests/engine/seeded_random.h"
+#include "tests/rules/small_worlds.h"
+#include "tests/screens/hands.h"
+
+// What only a real X server and a window manager do: repeats of held keys, modifiers, double clicks whose
+// halves hit two windows, windows that are dragged and closed from outside, icons.
+
+namespace vorlund {
+namespace {
+
+const QString AnnasTurn = "Vorlund - Anna's turn [bsrautev]";
+
+const GameState Neighbours = NewGame(3, "7 Anna 10/1F; 8 Ben 2/0; 36 Cleo 5/0; Anna Money 1000");
+
+/// Runs a program to its end while the windows go on; returns what it printed.
+QString Output(const QString& program, const QString& arguments) {
+    QProcess process;
+    process.start(program, arguments.split(' '));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000));
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+void Keys(const QString& commands) {
+    Keyboard();
+    Output("xdotool", commands);
+    QTest::qWait(200);
+}
+
+/// Holds a key for longer than it takes to repeat.
+void Hold(const QString& key) {
+    Keys("keydown " + key + " sleep 1.2 keyup " + key);
+}
+
+void Mouse(QPoint place, const QString& commands) {
+    Output("xdotool", QString("mousemove %1 %2 %3").arg(place.x()).arg(place.y()).arg(commands));
+    QTest::qWait(200);
+}
+
+QPoint On(const QString& window, const QString& control) {
+    const QWidget& target = Control(window, control);
+    return target.mapToGlobal(target.rect().center());
+}
+
+TEST(OnX, AKeyThatIsHeldActsOnce) {
+    Sitting sitting;
+    sitting.Resume(Neighbours);
+    Hold("v");
+    EXPECT_EQ(Text("frmSave", "txtSave"), "");
+    Hold("x");
+    EXPECT_GT(Text("frmSave", "txtSave").size(), 3);
+    Hold("Escape");
+    EXPECT_EQ(Desktop(), AnnasTurn);
+    Type("u");
+    Keys("keydown alt keydown 1 sleep 1.2 keyup 1 keyup alt");
+    EXPECT_EQ(sitting.Game().PlayerAt(0).EconomyLevel, 1);
+}
+
+TEST(OnX, AHeldEnterReadsOneReport) {
+    Sitting sitting(std::make_unique<SeededRandom>(3));
+    sitting.Resume(NewGame(4,
+                           "7 Anna 10/1; 16 Ben 2/0; 36 Cleo 5/0; 40 Dora 5/0; Ben IsComputer 1; Cleo "
+                           "IsComputer 1; Dora IsComputer 1"));
+    Type("e");
+    EXPECT_EQ(Desktop(), "Vorlund - Ben's turn [] | Computer player Ben's status");
+    Hold("Return");
+    EXPECT_EQ(Desktop(), "Vorlund - Cleo's turn [] | Computer player Cleo's status");
+}
+
+TEST(OnX, ALetterRunsItsCommandWithNoModifierButShift) {
+    Sitting sitting;
+    sitting.Resume(Neighbours);
+    for (const char* modifier : {"super", "alt", "ctrl", "ISO_Level3_Shift"}) {
+        Keys(QString("key %1+b").arg(QLatin1String(modifier)));
+        EXPECT_EQ(Desktop(), AnnasTurn) << modifier;
+    }
+    Keys("key shift+b");
+    EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [] | Vorlund - Buy");
+}
+
+TEST(OnX, ADoubleClickOnBuyDoesNotEndTheTurn) {
+    Sitting sitting;
+    sitting.Resume(Neighbours);
+    Type("b7\t1");
+    QWidget& dialog = Window("frmBuy");
+    dialog.move(dialog.pos() + On("frm3", "lblEndTurn") - On("frmBuy", "lblGo"));
+    EXPECT_TRUE(QTest::qWaitFor([] { return On("frmBuy", "lblGo") == On("frm3", "lblEndTurn"); }));
+    Mouse(On("frmBuy", "lblGo"), "click --repeat 2 --delay 150 1");
+    EXPECT_EQ(Desktop(), AnnasTurn + " | Vorlund - Buy");
+    EXPECT_EQ(sitting.Game().PlayerAt(0).Money, 990);
+    Mouse(On("frm3", "lblEndTurn"), "sleep 0.6 click 1");
+    EXPECT_EQ(Desktop(), "Vorlund - Ben's turn [] | Vorlund - Upkeep");
+}
+
+TEST(OnX, EveryReportComesToTheSamePlaceOverTheBoard) {
+    Sitting sitting;
+    sitting.Resume(Neighbours);
+    Keyboard();
+    QTest::qWait(300);  // until the board has its frame
+    for (int report = 0; report < 4; ++report) {
+        Type("b7\t1\n");
+        QTest::qWait(300);
+        const QRect board = Window("frm3").geometry();
+        const QRect place = Window("frmReport").geometry();
+        EXPECT_NEAR(place.center().x(), board.center().x(), 4);
+        EXPECT_NEAR(place.bottom(), board.top() + 428, 4);
+        Type("\n");
+    }
+}
+
+TEST(OnX, TheLeftButtonAloneDragsTheTitle) {
+    const Sitting sitting;
+    Keyboard();
+    const QWidget& title = Window("frm1");
+    const QPoint before = title.pos();
+    for (const char* button : {"2", "3", "1"}) {
+        Mouse(title.mapToGlobal(QPoint(20, 20)), QString("mousedown %1 sleep 0.2 mousemove_relative 20 10 "
+                                                         "sleep 0.1 mousemove_relative 20 20 sleep 0.2 "
+                                                         "mouseup %1 mousemove_relative 9 9")
+                                                     .arg(QLatin1String(button)));
+        EXPECT_EQ(title.pos() - before, *button == '1' ? QPoint(40, 30) : QPoint(0, 0)) << button;
+    }
+}
+
+TEST(OnX, TheWindowManagerClosesNothingWhileAWinnerIsAnnounced) {
+    Sitting sitting(std::make_unique<SeededRandom>(3));
+    sitting.Resume(NewGame(
+        3, "27 Anna 1/0; 35 Ben 1/0; 26 Cleo 100/0; 34 Cleo 300/0; Ben IsComputer 1; Cleo IsComputer 1"));
+    sitting.Expect({"Warning: Player 3, Cleo, wins the game!", "\n", [] {
+                        for (const char* window : {"frm3", "frmReport"}) {
+                            Mouse(Window(window).frameGeometry().topRight() + QPoint(-12, 12), "click 1");
+                        }
+                        EXPECT_TRUE(ReportText().endsWith(" is now dead.\n"));
+                    }});
+    Type("e\n");
+    EXPECT_EQ(Desktop(), "Vorlund - Cleo wins [] | Computer player Cleo's status");
+    Mouse(Window("frmReport").frameGeometry().topRight() + QPoint(-12, 12), "click 1");
+    EXPECT_EQ(Desktop(), "Vorlund - Cleo wins []");
+}
+
+TEST(OnX, TheProgramsWindowsCarryItsIcon) {
+    QProcess program;
+    program.start(VORLUND_PROGRAM, {});
+    const QString window = Output("xdotool", "search --sync --onlyvisible --name ^Vorlund$").trimmed();
+    const QString properties = Output("xprop", "-id " + window + " _NET_WM_ICON");
+    for (const char* size : {"16 x 16", "48 x 48", "128 x 128"}) {
+        EXPECT_TRUE(properties.contains(size)) << size;
+    }
+    program.kill();
+    program.waitForFinished();
+}
+
+}  // namespace
+}  // namespace vorlund
