@@ -145,7 +145,7 @@ private:
 
 /// Counts the lines before the one that holds a field of the game.
 struct LineCounter {
-    const void* Field;
+    const void* Field = nullptr;
     int Line = 1;
 
     bool Integer(const std::int16_t& value, const char*, const std::string&, std::int16_t, std::int16_t) {

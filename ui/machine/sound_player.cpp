@@ -56,8 +56,8 @@ void SoundPlayer::PlayWave(Wave wave) {
     {
         const std::lock_guard lock(orders_->mutex);
         orders_->wanted = wave;
-        orders_->changed.notify_all();
     }
+    orders_->changed.notify_all();
     if (!thread_.joinable()) {
         StartThread();
     }
