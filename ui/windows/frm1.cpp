@@ -92,23 +92,26 @@ bool frm1::CloseRequested() {
 }
 
 void frm1::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) {
-        return;
+    if (event->button() == Qt::LeftButton) {
+        grip_ = event->globalPosition().toPoint() - pos();
+        dragging_ = true;
     }
-    // Where the desktop does not offer to move the window, it follows the pointer by its own steps.
-    grip_ = event->globalPosition().toPoint() - pos();
-    dragging_ = windowHandle() == nullptr || !windowHandle()->startSystemMove();
 }
 
 void frm1::mouseMoveEvent(QMouseEvent* event) {
-    if (dragging_ && event->buttons().testFlag(Qt::LeftButton)) {
+    // The desktop moves the window, if it can. It is not asked when the button goes down: one that is let go
+    // before the window manager has taken the pointer would never end the move.
+    dragging_ = dragging_ && !windowHandle()->startSystemMove();
+    if (dragging_) {
         move(event->globalPosition().toPoint() - grip_);
     }
     Screen::mouseMoveEvent(event);
 }
 
 void frm1::mouseReleaseEvent(QMouseEvent* event) {
-    dragging_ = dragging_ && event->button() != Qt::LeftButton;
+    if (event->button() == Qt::LeftButton) {
+        dragging_ = false;
+    }
 }
 
 }  // namespace vorlund
