@@ -261,6 +261,8 @@ TEST(Input, NothingClosesWhileAWinnerIsAnnounced) {
         sitting.Resume(game);
         sitting.Expect({QString("Warning: Player %1, %2, wins the game!").arg(player).arg(winner), "\n", [] {
                             for (const char* window : {"frmReport", "frm3"}) {
+                                QCloseEvent request;  // as the window manager's comes
+                                QApplication::sendEvent(Window(window).windowHandle(), &request);
                                 Close(window);
                                 Window(window).close();
                             }

@@ -173,7 +173,7 @@ TEST(Look, TheFirstScreensAreLegible) {
     Click("frm2", "opt5");
     Type("\n");
     for (int row = 0; row < 5; ++row) {
-        Fill("frm2", QString("txtN(%1)").arg(row), row == 4 ? "\"" : row == 3 ? QString(12, '&') : WideName);
+        Fill("frm2", QString("txtN(%1)").arg(row), row == 4 ? "\"" : row == 2 ? QString(12, '&') : WideName);
     }
     Type("\n");
     ExpectLegible("frm2");
@@ -181,6 +181,8 @@ TEST(Look, TheFirstScreensAreLegible) {
     Window("frmSelect");
     Type("28\n");
     ExpectLegible("frmSelect");
+    Type("7\n");
+    ExpectLegible(static_cast<TextLabel&>(Control("frmSelect", "lbl1")));
 }
 
 TEST(Look, TheBoardItsDialogsAndReportsAreLegible) {
