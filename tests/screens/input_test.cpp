@@ -187,7 +187,7 @@ TEST(Input, NothingTakesTheSecondHalfOfADoubleClickThatBeganElsewhere) {
     FirstClick(Control("frmReport", "lblCont"));
     SecondClick(Control("frmReport", "lblCont"));  // of the next report
     EXPECT_EQ(Desktop(), "Vorlund - Cleo's turn [] | Computer player Cleo's status");
-    SecondClick(Control("frmReport", "lblCont"));  // nor the third half
+    SecondClick(Control("frmReport", "lblCont"));  // nor a third click
     EXPECT_EQ(Desktop(), "Vorlund - Cleo's turn [] | Computer player Cleo's status");
     FirstClick(Control("frmReport", "lblCont"));
     SecondClick(Control("frmReport", "lblCont"));
