@@ -47,7 +47,7 @@ void GameScreens::CloseEverything() {
 void GameScreens::SelectTerritories() {
     selection_.Present([this] {
         auto selection = std::make_unique<frmSelect>(*board_, game_, random_, *this);
-        PlaceOver(*selection, *board_, frm3::DialogBottom);
+        selection->PlaceOver(*board_, frm3::DialogBottom);
         return selection;
     });
 }
@@ -65,7 +65,7 @@ void GameScreens::RunCommand(Command command) {
     SetCommands(CommandSet::None());
     dialogs_[static_cast<std::size_t>(command)].Present([this, command] {
         auto dialog = MakeDialog(command);
-        PlaceOver(*dialog, *board_, frm3::DialogBottom);
+        dialog->PlaceOver(*board_, frm3::DialogBottom);
         return dialog;
     });
 }
@@ -150,7 +150,7 @@ void GameScreens::ShowReport(const Report& report, std::optional<int> picturePla
 
 void GameScreens::PutReport(const Report& report, const Picture* picture, QWidget* owner) {
     if (!report_->isVisible()) {
-        PlaceOver(*report_, *board_, frm3::ReportBottom);
+        report_->PlaceOver(*board_, frm3::ReportBottom);
     }
     report_->ShowIt(report, picture, owner);
 }

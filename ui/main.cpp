@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QScreen>
 #include <array>
 
 #include "ui/machine/data_folder.h"
@@ -7,10 +8,13 @@
 #include "ui/parts/accessible.h"
 #include "ui/parts/input_filter.h"
 #include "ui/parts/look.h"
+#include "ui/parts/zoom.h"
 #include "ui/program.h"
+#include "ui/windows/frm3.h"
 
 namespace {
 
+constexpr qreal UsualDotsPerInch = 96;
 constexpr int AnotherCopyRuns = 3;  // the exit status by which ./play knows, for the copy itself says nothing
 
 }  // namespace
@@ -36,6 +40,12 @@ int main(int, char** arguments) {
         return AnotherCopyRuns;
     }
     const vorlund::InputFilter inputFilter;
+    if (const QScreen* screen = QGuiApplication::primaryScreen(); screen != nullptr) {
+        const bool scaled =
+            screen->devicePixelRatio() != 1.0 || screen->logicalDotsPerInch() > UsualDotsPerInch;
+        vorlund::Zoom::OfApplication().Set(
+            vorlund::StartingZoom(vorlund::frm3::Size, screen->availableSize(), scaled));
+    }
     vorlund::DescribeScreensToAssistiveTechnology();
     vorlund::GameState game;
     vorlund::ClockRandom random;

@@ -6,7 +6,7 @@
 #include "tests/screens/colours.h"
 #include "tests/screens/hands.h"
 
-// Every screen as it looks, with the family of fonts and at the scale that the environment has.
+// Every screen as it looks, with the family of fonts, at the scale and the zoom that the environment has.
 
 namespace vorlund {
 namespace {
@@ -94,10 +94,21 @@ QRect ExpectLegible(TextLabel& label) {
             (QSizeF(letters.Ink.size()) / ratio).toSize()};
 }
 
+// The windows are opened at zoom 1 and follow a change to the one that is looked at.
+class Zoomer {
+public:
+    Zoomer() { Zoom::OfApplication().Set(qEnvironmentVariable("VORLUND_ZOOM", "1").toDouble()); }
+    ~Zoomer() { Zoom::OfApplication().Set(1); }
+    Zoomer(const Zoomer&) = delete;
+    Zoomer& operator=(const Zoomer&) = delete;
+};
+
 // Nothing on the screen is cut off, faint, over something else or outside the window.
 void ExpectLegible(const QString& name) {
     SCOPED_TRACE(name.toStdString());
     QWidget& window = Window(name);
+    const Zoomer zoomer;
+    QCoreApplication::processEvents();
     std::vector<QRect> places;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         QRect place = widget->rect();
@@ -258,10 +269,36 @@ TEST(Look, CommandsAreLitUnderThePointer) {
     EXPECT_EQ(seen("frmReport", "lbl2", "lblCont"), "rest");
 }
 
+TEST(Look, KeysZoomEveryWindowAtOnce) {
+    Sitting sitting;
+    sitting.Resume(FullBoard());
+    Type("r");
+    const QWidget& board = Window("frm3");
+    const QWidget& dialog = Window("frmTransport");
+    for (const auto& [key, zoom] : {std::pair(Qt::Key_Plus, 1.25),
+                                    {Qt::Key_Equal, 1.5},
+                                    {Qt::Key_Plus, 2.0},
+                                    {Qt::Key_Plus, 2.0},
+                                    {Qt::Key_Minus, 1.5},
+                                    {Qt::Key_0, 1.0},
+                                    {Qt::Key_Minus, 1.0}}) {
+        Press(key, Qt::ControlModifier);
+        EXPECT_EQ(board.size(), (QSizeF(750, 525) * zoom).toSize());
+        EXPECT_EQ(dialog.size(), (QSizeF(391, 110) * zoom).toSize());
+    }
+    const auto starts = [](QSize room, bool scaled) { return StartingZoom({750, 525}, room, scaled); };
+    EXPECT_EQ(starts({2560, 1400}, false), 2.0);
+    EXPECT_EQ(starts({2560, 1400}, true), 1.0);
+    EXPECT_EQ(starts({1920, 1080}, false), 1.5);  // the title bar would not fit at 2
+    EXPECT_EQ(starts({1500, 1200}, false), 1.0);
+    EXPECT_EQ(starts({1600, 1050}, false), 1.0);
+}
+
 TEST(Look, PicturesAreSharpAtEveryScale) {
     for (const auto& [name, size] : {std::pair("map", QSize(750, 525)), {"marker4", {10, 10}}}) {
         for (const qreal ratio : {1.0, 1.25, 1.5, 2.0}) {
-            EXPECT_EQ(LoadPicture(name, ratio).size(), (QSizeF(size) * ratio).toSize()) << name << ratio;
+            EXPECT_EQ(LoadPicture(name, 1.0, ratio).size(), (QSizeF(size) * ratio).toSize()) << name << ratio;
+            EXPECT_EQ(LoadPicture(name, ratio, 1.0).size(), (QSizeF(size) * ratio).toSize()) << name << ratio;
         }
     }
 }

@@ -2,15 +2,17 @@
 
 #include <QAbstractButton>
 
+#include "ui/parts/placed.h"
+
 namespace vorlund {
 
 /// What commands and toggles have in common: on every desktop Space presses them and Enter is left to the
 /// window, although some desktop themes count Enter among the keys that press a button.
-class Button : public QAbstractButton {
+class Button : public Placed<QAbstractButton> {
     Q_OBJECT
 
 public:
-    using QAbstractButton::QAbstractButton;
+    using Placed::Placed;
 
     QSize sizeHint() const override { return size(); }
 

@@ -25,11 +25,15 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
     setObjectName(objectName);
     setText(caption);
     setShortcut({});  // "&" underlines the letter that runs the command; Alt with it does not
-    setGeometry(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
+    PlaceAt(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
+    ZoomChanged();
+}
+
+void CommandLabel::ZoomChanged() {
     // The plate has room for a little more than the box: letters are left as they are if they fit there.
-    setFont(Fitted(FontOf(Face::Command), QString(caption).remove(u'&'), box.width() + PlateX));
+    setFont(Fitted(FontOf(Face::Command), text().remove(u'&'), width() - Zoomed(PlateX)));
 }
 
 void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
@@ -58,35 +62,38 @@ void CommandLabel::Become(State state) {
 }
 
 void CommandLabel::PaintPlate(QPainter& painter) const {
+    const qreal zoom = Zoom::OfApplication().Factor();
     const QRectF plate = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const qreal radius = CornerRadius * zoom;
     if (!isEnabled()) {
-        painter.setPen(DisabledPlate);
+        painter.setPen(QPen(DisabledPlate, zoom));
         painter.setBrush(QColor(18, 22, 34));
     } else if (state_ == State::Rest) {
-        painter.setPen(LightRim);
+        painter.setPen(QPen(LightRim, zoom));
         painter.setBrush(LightPlate);
     } else {
-        painter.setPen(QColor(state_ == State::Hover ? colour::Hover : colour::Pressed));
+        painter.setPen(QPen(QColor(state_ == State::Hover ? colour::Hover : colour::Pressed), zoom));
         painter.setBrush(DarkPlate);
     }
-    painter.drawRoundedRect(plate, CornerRadius, CornerRadius);
+    painter.drawRoundedRect(plate, radius, radius);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(colour::Focus), 1.3));
+        painter.setPen(QPen(QColor(colour::Focus), 1.3 * zoom));
         // At the very edge, where no letter reaches: amber is no ground for light blue.
-        painter.drawRoundedRect(plate.adjusted(0.1, 0.1, -0.1, -0.1), CornerRadius, CornerRadius);
+        painter.drawRoundedRect(plate.adjusted(0.1, 0.1, -0.1, -0.1), radius, radius);
     }
 }
 
 void CommandLabel::PaintMark(QPainter& painter, const QColor& ink) const {
-    const QPointF middle(PlateX + MarkWidth / 2.0, height() / 2.0);
-    painter.setPen(QPen(ink, 1.4));
+    const qreal zoom = Zoom::OfApplication().Factor();
+    const QPointF middle((PlateX + MarkWidth / 2.0) * zoom, height() / 2.0);
+    painter.setPen(QPen(ink, 1.4 * zoom));
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(middle, 5, 5);
+    painter.drawEllipse(middle, 5 * zoom, 5 * zoom);
     if (isChecked()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ink);
-        painter.drawEllipse(middle, 2.6, 2.6);
+        painter.drawEllipse(middle, 2.6 * zoom, 2.6 * zoom);
     }
 }
 
@@ -98,10 +105,10 @@ void CommandLabel::paintEvent(QPaintEvent*) {
     if (isEnabled()) {
         ink = state_ == State::Rest ? colour::Rest : state_ == State::Hover ? colour::Hover : colour::Pressed;
     }
-    QRect box = rect().adjusted(PlateX, PlateY, -PlateX, -PlateY);
+    QRect box = rect().adjusted(Zoomed(PlateX), Zoomed(PlateY), -Zoomed(PlateX), -Zoomed(PlateY));
     if (isCheckable()) {
         PaintMark(painter, ink);
-        box.setLeft(box.left() + MarkWidth);
+        box.setLeft(box.left() + Zoomed(MarkWidth));
     }
     painter.setFont(font());
     painter.setPen(ink);

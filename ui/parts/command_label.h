@@ -43,6 +43,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void ZoomChanged() override;
 
 private:
     enum class State { Rest, Hover, Pressed };

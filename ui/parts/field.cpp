@@ -4,10 +4,9 @@
 
 namespace vorlund {
 
-Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength)
-    : QLineEdit(parent) {
+Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength) : Placed(parent) {
     setObjectName(objectName);
-    setGeometry(frame);
+    PlaceAt(frame);
     setMaxLength(maxLength);
     setTextMargins(-1, 0, -1, 0);
     QPalette colours = palette();

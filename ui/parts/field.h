@@ -4,11 +4,13 @@
 #include <QString>
 #include <string>
 
+#include "ui/parts/placed.h"
+
 namespace vorlund {
 
 /// A text field of a dialog. It takes any characters up to its length; Enter, on the keypad as well, is a
 /// request of its own.
-class Field : public QLineEdit {
+class Field : public Placed<QLineEdit> {
     Q_OBJECT
 
 public:

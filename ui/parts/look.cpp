@@ -5,13 +5,15 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "ui/parts/zoom.h"
+
 namespace vorlund {
 namespace {
 
 QFont Make(const QStringList& families, int pixels, bool bold = false, bool italic = false) {
     QFont font;
     font.setFamilies(families);
-    font.setPixelSize(pixels);
+    font.setPixelSize(Zoomed(pixels));
     font.setBold(bold);
     font.setItalic(italic);
     return font;
@@ -71,9 +73,9 @@ QColor ColourOf(Face face) {
 
 QFont Fitted(QFont font, const QString& text, int width) {
     constexpr int narrowest =
-        88;                      // per cent; letters narrower than this are harder to read than smaller ones
-    constexpr int step = 4;      // per cent
-    constexpr int smallest = 7;  // pixels
+        88;                  // per cent; letters narrower than this are harder to read than smaller ones
+    constexpr int step = 4;  // per cent
+    const int smallest = Zoomed(7);  // pixels
     const int widest = WidestLine(font, text);
     if (widest <= width || widest == 0) {
         return font;
@@ -96,9 +98,10 @@ QString Displayed(std::string_view text) {
     return shown.replace(u'\r', u'\n');
 }
 
-QPixmap LoadPicture(const QString& name, qreal ratio) {
+QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom) {
     const QString stem = QStringLiteral(":/pictures/") + name;
-    if (ratio == 1.0) {
+    const qreal pixels = ratio * zoom;  // of the device, for one of the layout
+    if (pixels == 1.0) {
         return {stem + QStringLiteral(".png")};
     }
     QPixmap picture(stem + QStringLiteral("@2x.png"));
@@ -107,8 +110,8 @@ QPixmap LoadPicture(const QString& name, qreal ratio) {
     }
     // In between two scales the finer picture is brought to the device's own pixels once, not at every paint.
     picture.setDevicePixelRatio(1.0);
-    if (ratio != 2.0) {
-        const QSizeF size = QSizeF(picture.size()) * ratio / 2.0;
+    if (pixels != 2.0) {
+        const QSizeF size = QSizeF(picture.size()) * pixels / 2.0;
         picture = picture.scaled(size.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
     picture.setDevicePixelRatio(ratio);

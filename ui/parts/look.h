@@ -9,7 +9,7 @@
 
 namespace vorlund {
 
-/// The faces in which the game writes, sizes in pixels at 96 dots per inch.
+/// The faces in which the game writes.
 enum class Face { Caption, Status, Heading, Command, Field, Count };
 
 namespace colour {
@@ -23,6 +23,8 @@ inline constexpr QRgb Heading = qRgb(0, 255, 0);
 inline constexpr QRgb Window = qRgb(0, 0, 0);
 }  // namespace colour
 
+/// The font of a face at the zoom of the application. At zoom 1 its size in pixels is that in points at 96
+/// dots per inch.
 QFont FontOf(Face face);
 
 /// The colour in which labels of this face are written.
@@ -36,8 +38,9 @@ QFont Fitted(QFont font, const QString& text, int width);
 /// toolkit's.
 QString Displayed(std::string_view text);
 
-/// The picture of the program called `name`, sharp at a device pixel ratio of `ratio`.
-QPixmap LoadPicture(const QString& name, qreal ratio);
+/// The picture of the program called `name`, sharp at a device pixel ratio of `ratio` and as large as `zoom`
+/// asks for.
+QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom);
 
 /// The program's icon, for its windows: also where the program is not installed and the desktop has none.
 QIcon ProgramIcon();

@@ -6,6 +6,7 @@
 
 #include "ui/parts/look.h"
 #include "ui/parts/screen.h"
+#include "ui/parts/zoom.h"
 
 namespace vorlund {
 namespace {
@@ -52,6 +53,7 @@ public:
 int Answer(QWidget* owner, QMessageBox::Icon icon, const QString& title, const std::string& text,
            QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, title, Displayed(text), buttons, owner);
+    box.setFont(Zoomed(box.font()));
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
     const auto safe = buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Ok;

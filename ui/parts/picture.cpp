@@ -7,16 +7,18 @@
 namespace vorlund {
 
 const QPixmap& Picture::At(qreal ratio) const {
-    if (ratio_ != ratio) {
-        pixmap_ = LoadPicture(name_, ratio);
+    const qreal zoom = Zoom::OfApplication().Factor();
+    if (ratio_ != ratio || zoom_ != zoom) {
+        pixmap_ = LoadPicture(name_, ratio, zoom);
         ratio_ = ratio;
+        zoom_ = zoom;
     }
     return pixmap_;
 }
 
-PictureLabel::PictureLabel(QWidget* parent, const QString& objectName, const QRect& frame) : QLabel(parent) {
+PictureLabel::PictureLabel(QWidget* parent, const QString& objectName, const QRect& frame) : Placed(parent) {
     setObjectName(objectName);
-    setGeometry(frame);
+    PlaceAt(frame);
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

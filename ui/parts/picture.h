@@ -4,10 +4,12 @@
 #include <QPixmap>
 #include <QString>
 
+#include "ui/parts/placed.h"
+
 namespace vorlund {
 
 /// A picture of the program that is decoded once, when it is first painted, and again only if the device
-/// pixel ratio changes.
+/// pixel ratio or the zoom changes.
 class Picture {
 public:
     /// `description` says what is seen, to those who do not see it.
@@ -16,6 +18,7 @@ public:
 
     const QString& Description() const { return description_; }
 
+    /// The picture at the zoom of the application, for a device pixel ratio of `ratio`.
     const QPixmap& At(qreal ratio) const;
 
 private:
@@ -23,10 +26,11 @@ private:
     QString description_;
     mutable QPixmap pixmap_;
     mutable qreal ratio_ = 0;
+    mutable qreal zoom_ = 0;
 };
 
 /// A place on a screen that shows a picture unscaled, cut to its frame.
-class PictureLabel : public QLabel {
+class PictureLabel : public Placed<QLabel> {
 public:
     PictureLabel(QWidget* parent, const QString& objectName, const QRect& frame);
 

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QShortcut>
+#include <QTimer>
 #include <algorithm>
 
 namespace vorlund {
@@ -24,16 +26,29 @@ Qt::WindowFlags WithFrame(Qt::WindowFlags flags) {
     return dialog ? flags : flags | Qt::WindowMinimizeButtonHint;
 }
 
+// Where a frame of this size and place lies on the desktop; its title bar above all, if there is no room for
+// it.
+QPoint OntoDesktop(const QScreen* screen, QRect frame) {
+    if (screen != nullptr) {
+        const QRect room = screen->availableGeometry();
+        frame.moveLeft(
+            std::clamp(frame.left(), room.left(), std::max(room.left(), room.right() - frame.width())));
+        frame.moveTop(
+            std::clamp(frame.top(), room.top(), std::max(room.top(), room.bottom() - frame.height())));
+    }
+    return frame.topLeft();
+}
+
 }  // namespace
 
 Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize size,
                const QString& background, Qt::WindowFlags flags)
     : QWidget(owner, WithFrame(flags)),
+      size_(size),
       background_(background.isEmpty() ? name : background),
       role_(windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window) {
     setObjectName(name);
     setWindowTitle(title);
-    setFixedSize(size);
     setMouseTracking(true);
     QPalette black = palette();
     black.setColor(QPalette::Window, colour::Window);
@@ -43,14 +58,46 @@ Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize 
         black.setBrush(QPalette::Inactive, colour, black.brush(QPalette::Active, colour));
     }
     setPalette(black);
-    setFont(FontOf(Face::Field));  // of what is typed into and chosen from: it is made with its window's font
+    FollowZoom();
+    ZoomByKeys();
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
         for (const QWidget* changed : {before, now}) {
             if (changed != nullptr && changed->parentWidget() == this) {
-                update(changed->geometry().adjusted(-FocusRing, -FocusRing, FocusRing, FocusRing));
+                const int ring = Zoomed(FocusRing);
+                update(changed->geometry().adjusted(-ring, -ring, ring, ring));
             }
         }
     });
+}
+
+void Screen::FollowZoom() {
+    setFixedSize(Zoomed(size_));
+    setFont(FontOf(Face::Field));  // what is typed into and chosen from inherits its window's font
+}
+
+void Screen::ZoomByKeys() {
+    Zoom& zoom = Zoom::OfApplication();
+    connect(&zoom, &Zoom::Changed, this, [this] {
+        QRect frame = frameGeometry();
+        const QPoint middle = frame.center();
+        const QSize border = frame.size() - size();
+        FollowZoom();
+        frame.setSize(size() + border);
+        frame.moveCenter(middle);
+        move(OntoDesktop(screen(), frame));
+        if (!over_.isNull()) {
+            // Not before the window below has been moved
+            QTimer::singleShot(0, this, [this] { PlaceOver(*over_, bottom_); });
+        }
+    });
+    const auto on = [this](const QKeySequence& keys, auto deed) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
+    };
+    for (const Qt::Key plus : {Qt::Key_Plus, Qt::Key_Equal}) {
+        on(Qt::CTRL | plus, [&zoom] { zoom.In(); });
+    }
+    on(Qt::CTRL | Qt::Key_Minus, [&zoom] { zoom.Out(); });
+    on(Qt::CTRL | Qt::Key_0, [&zoom] { zoom.Set(1.0); });
 }
 
 void Screen::CloseOutright() {
@@ -100,9 +147,9 @@ CommandLabel* Screen::AddCommand(const QString& name, const QString& caption, co
 }
 
 void Screen::AddLine(const QString& name, QPoint from, int length) {
-    auto* line = new QWidget(this);
+    auto* line = new Placed<QWidget>(this);
     line->setObjectName(name);
-    line->setGeometry(QRect(from, QSize(length, 1)));
+    line->PlaceAt(QRect(from, QSize(length, 1)));
     QPalette ink = line->palette();
     ink.setColor(QPalette::Window, QColor(96, 112, 140));
     line->setPalette(ink);
@@ -153,25 +200,22 @@ void Screen::PaintFocusRing(QPainter& painter) const {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(colour::Focus), 1.6));
-    painter.drawRoundedRect(QRectF(focus->geometry()).adjusted(-2, -2, 2, 2), 3, 3);
+    const qreal zoom = Zoom::OfApplication().Factor();
+    painter.setPen(QPen(QColor(colour::Focus), 1.6 * zoom));
+    painter.drawRoundedRect(QRectF(focus->geometry()).adjusted(-2 * zoom, -2 * zoom, 2 * zoom, 2 * zoom),
+                            3 * zoom, 3 * zoom);
 }
 
-void PlaceOver(QWidget& window, const QWidget& owner, int bottom) {
+void Screen::PlaceOver(const QWidget& owner, int bottom) {
+    over_ = &owner;
+    bottom_ = bottom;
     const QRect under = owner.geometry();
-    QRect place(QPoint(0, 0), window.size());
+    QRect place(QPoint(0, 0), size());
     place.moveCenter(under.center());
-    place.moveBottom(under.top() + bottom);
+    place.moveBottom(under.top() + Zoomed(bottom));
     // A window is moved by its frame, whose title bar will be as high as the owner's.
     place.translate(0, owner.frameGeometry().top() - under.top());
-    if (const QScreen* screen = owner.screen(); screen != nullptr) {
-        const QRect room = screen->availableGeometry();
-        place.moveLeft(
-            std::clamp(place.left(), room.left(), std::max(room.left(), room.right() - place.width())));
-        place.moveTop(
-            std::clamp(place.top(), room.top(), std::max(room.top(), room.bottom() - place.height())));
-    }
-    window.move(place.topLeft());
+    move(OntoDesktop(owner.screen(), place));
 }
 
 }  // namespace vorlund

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessible>
+#include <QPointer>
 #include <QWidget>
 #include <string_view>
 #include <vector>
@@ -15,9 +16,9 @@ class QPainter;
 
 namespace vorlund {
 
-/// What all windows of the game have in common: a fixed size, a background picture on black, labels, fields
-/// and commands at fixed places, the commands' colours under the mouse, and a close request that a window may
-/// refuse.
+/// What all windows of the game have in common: a size fixed by the layout and the zoom, a background picture
+/// on black, labels, fields and commands at fixed places, the commands' colours under the mouse, and a close
+/// request that a window may refuse.
 class Screen : public QWidget {
     Q_OBJECT
 
@@ -29,6 +30,11 @@ public:
 
     /// Closes the window without asking what closing it means.
     void CloseOutright();
+
+    /// Moves the window over `owner`, in its middle from left to right and with its lower edge `bottom`
+    /// pixels of the layout below the owner's upper one, but onto the desktop in any case. A change of the
+    /// zoom does the same again.
+    void PlaceOver(const QWidget& owner, int bottom);
 
     bool ClosesOutright() const { return outright_; }
 
@@ -75,9 +81,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void FollowZoom();
+    void ZoomByKeys();
     void PaintFocusRing(QPainter& painter) const;
     void RestCommands(const CommandLabel* except = nullptr);
 
+    QSize size_;  // of the layout
+    QPointer<const QWidget> over_;
+    int bottom_ = 0;
     Picture background_;
     QAccessible::Role role_;
     std::vector<CommandLabel*> commands_;
@@ -85,9 +96,5 @@ private:
     bool outright_ = false;
     int timesPresented_ = 0;
 };
-
-/// Moves `window` over `owner`, in its middle from left to right and with its lower edge `bottom` pixels
-/// below the owner's upper one, but onto the desktop in any case.
-void PlaceOver(QWidget& window, const QWidget& owner, int bottom);
 
 }  // namespace vorlund

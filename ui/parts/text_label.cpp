@@ -15,9 +15,9 @@ constexpr int PlateHeight = 11;
 }  // namespace
 
 TextLabel::TextLabel(QWidget* parent, const QString& objectName, Face face, const QRect& frame)
-    : QLabel(parent), face_(face) {
+    : Placed(parent), face_(face) {
     setObjectName(objectName);
-    setGeometry(frame);
+    PlaceAt(frame);
     setTextFormat(Qt::PlainText);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -28,25 +28,30 @@ TextLabel::TextLabel(QWidget* parent, const QString& objectName, Face face, cons
 }
 
 void TextLabel::Show(std::string_view text) {
-    const QString shown = Displayed(text);
-    if (!wordWrap()) {
-        setFont(Fitted(FontOf(face_), shown, width()));
-    }
-    setText(shown);
+    setText(Displayed(text));
+    ZoomChanged();
+}
+
+void TextLabel::Refit(const QRect& frame) {
+    PlaceAt(frame);
+    ZoomChanged();
+}
+
+void TextLabel::ZoomChanged() {
+    setFont(wordWrap() ? FontOf(face_) : Fitted(FontOf(face_), text(), width()));
 }
 
 CountLabel::CountLabel(QWidget* parent, const QString& objectName, const QRect& frame)
     : TextLabel(parent, objectName, Face::Count, frame), room_(frame.width()) {}
 
-void CountLabel::Show(std::string_view text) {
-    setFont(Fitted(FontOf(Face::Count), Displayed(text), room_ - 2 * PlateMargin));
-    setText(Displayed(text));
+void CountLabel::ZoomChanged() {
+    setFont(Fitted(FontOf(Face::Count), text(), Zoomed(room_ - 2 * PlateMargin)));
 }
 
 QRect CountLabel::Plate() const {
     const int wide =
-        static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * PlateMargin;
-    return {(width() - wide) / 2, PlateTop, wide, PlateHeight};
+        static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * Zoomed(PlateMargin);
+    return {(width() - wide) / 2, Zoomed(PlateTop), wide, Zoomed(PlateHeight)};
 }
 
 void CountLabel::paintEvent(QPaintEvent*) {
@@ -56,7 +61,7 @@ void CountLabel::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(8, 14, 26, 205));
-    painter.drawRoundedRect(plate, 3, 3);
+    painter.drawRoundedRect(plate, Zoomed(3), Zoomed(3));
     painter.setFont(font());
     painter.setPen(ColourOf(Face::Count));
     painter.drawText(QPointF(plate.center().x() - metrics.horizontalAdvance(text()) / 2,

@@ -5,17 +5,24 @@
 #include <string_view>
 
 #include "ui/parts/look.h"
+#include "ui/parts/placed.h"
 
 namespace vorlund {
 
 /// A piece of text on a screen: a caption, a status line, a heading. It is plain text always, takes no mouse,
 /// and makes its letters smaller rather than cut them off.
-class TextLabel : public QLabel {
+class TextLabel : public Placed<QLabel> {
 public:
     TextLabel(QWidget* parent, const QString& objectName, Face face, const QRect& frame);
 
     /// Shows a text of the rules; carriage returns end its lines.
     void Show(std::string_view text);
+
+    /// Moves the label to `frame` of the layout and fits its text in again.
+    void Refit(const QRect& frame);
+
+protected:
+    void ZoomChanged() override;
 
 private:
     Face face_;
@@ -26,16 +33,15 @@ class CountLabel : public TextLabel {
 public:
     CountLabel(QWidget* parent, const QString& objectName, const QRect& frame);
 
-    /// A count wider than `room` pixels, at first the width of the label, is written narrower and smaller.
+    /// A count wider than `room` pixels of the layout, at first the width of the label, is written narrower and smaller.
     void SetRoom(int room) { room_ = room; }
-
-    void Show(std::string_view text);
 
     /// Where in the label the count is seen.
     QRect Plate() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void ZoomChanged() override;
 
 private:
     int room_;

@@ -18,7 +18,6 @@
 namespace vorlund {
 namespace {
 
-constexpr QSize Size(750, 525);
 constexpr int SelectionDelay = 20;  // milliseconds
 constexpr int CountWidth = 56;
 
@@ -146,7 +145,9 @@ void frm3::RefreshLand() {
         const Territory& territory = game_.TerritoryAt(t);
         owners[static_cast<std::size_t>(t)] = territory.Occupied ? territory.Owner : OwnerMap::Nobody;
     }
-    update(land_.Show(owners));
+    for (const QRect& changed : land_.Show(owners)) {
+        update(Zoomed(changed));
+    }
 }
 
 void frm3::RefreshTerritory(int t, const Marker& marker) {
@@ -161,13 +162,13 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
     const int x = territory.MapX;
     const int y = territory.MapY;
     marker.imgCntry->Show(&imgSet(territory.Owner));
-    marker.imgCntry->move(built ? x - 10 : x - 5, y);
+    marker.imgCntry->PlaceAt(QRect(built ? x - 10 : x - 5, y, 10, 10));
     if (built) {
         const std::size_t both = territory.HasFactory && territory.HasDefense ? 1 : 0;
         marker.imgExtra->Show(&imgExtraSet_[(territory.HasFactory ? 1 : 0) + both]);
-        marker.imgExtra->move(x, y);
+        marker.imgExtra->PlaceAt(QRect(x, y, 10, 10));
     }
-    marker.lblCntry->move(x - 28, y + 12);
+    marker.lblCntry->PlaceAt(QRect(x - 28, y + 12, 56, 17));
     marker.lblCntry->Show(std::to_string(territory.Stationed.Troops) + "/" +
                           std::to_string(territory.Stationed.Tanks));
     marker.lblCntry->setAccessibleName(ShortDescription(game_, t));
@@ -213,11 +214,12 @@ void frm3::paintEvent(QPaintEvent* event) {
     Screen::paintEvent(event);
     QPainter painter(this);
     painter.setClipRegion(event->region());
+    painter.scale(Zoom::OfApplication().Factor(), Zoom::OfApplication().Factor());
     land_.Paint(painter);
 }
 
 void frm3::mousePressEvent(QMouseEvent* event) {
-    const auto territory = map_.At(event->position());
+    const auto territory = map_.At(event->position() / Zoom::OfApplication().Factor());
     if (territory && !territoryField_.isNull() && territoryField_->isVisible()) {
         territoryField_->TypeTerritory(*territory + 1);
     }
@@ -233,7 +235,7 @@ bool frm3::event(QEvent* event) {
 }
 
 void frm3::ShowTerritoryTip(const QHelpEvent& event) {
-    const auto territory = map_.At(event.pos());
+    const auto territory = map_.At(QPointF(event.pos()) / Zoom::OfApplication().Factor());
     if (!territory || imgGameOver_->isVisible()) {
         QToolTip::hideText();
         return;

@@ -26,6 +26,8 @@ public:
     static constexpr int ReportBottom = 428;
     static constexpr int DialogBottom = 517;
 
+    static constexpr QSize Size{750, 525};  ///< in pixels of the layout
+
     frm3(const GameState& game, GameNavigation& navigation);
 
     /// Shows the board: a loaded game goes on at once, a new one starts with the selection of territories.

@@ -17,9 +17,9 @@ frmLoad::frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation
       navigation_(navigation) {
     TextLabel* lbl2 = AddText(QStringLiteral("lbl2"), Face::Heading, QRect(16, 12, 308, 20),
                               "Select a saved game from the list below:");
-    flb1_ = new QListWidget(this);
+    flb1_ = new Placed<QListWidget>(this);
     flb1_->setObjectName(QStringLiteral("flb1"));
-    flb1_->setGeometry(QRect(16, 40, 180, 204));
+    flb1_->PlaceAt(QRect(16, 40, 180, 204));
     flb1_->setUniformItemSizes(true);
     flb1_->viewport()->installEventFilter(this);
     flb1_->setAccessibleName(lbl2->text());

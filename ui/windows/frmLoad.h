@@ -36,7 +36,7 @@ private:
     GameState& game_;
     const SavedGamesFolder& saves_;
     TitleNavigation& navigation_;
-    QListWidget* flb1_;
+    Placed<QListWidget>* flb1_;
     bool DoubleClicked_ = false;
 };
 

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QFontMetrics>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QWindow>
 
@@ -27,8 +26,8 @@ frmReport::frmReport(GameNavigation& navigation)
     lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, HeadlineFrame);
     lbl1_->setAlignment(Qt::AlignCenter);
     imgC_ = new PictureLabel(this, QStringLiteral("imgC"), PictureFrame);
-    scroll_ = new QScrollArea(this);
-    scroll_->setGeometry(BodyFrame);
+    scroll_ = new Placed<QScrollArea>(this);
+    scroll_->PlaceAt(BodyFrame);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setFocusPolicy(Qt::NoFocus);
@@ -45,28 +44,16 @@ frmReport::frmReport(GameNavigation& navigation)
         AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue"), QRect(214, 192, 72, 19));
     lblCont->SetKey(QStringLiteral("Enter"));
     connect(lblCont, &CommandLabel::clicked, this, &frmReport::close);
+    connect(&Zoom::OfApplication(), &Zoom::Changed, this, &frmReport::LayOut);
 }
 
 void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* owner) {
     SetTitle(report.Title);
     imgC_->Show(picture);
     imgC_->setVisible(picture != nullptr);
-    lbl1_->setGeometry(HeadlineFrame);
     lbl1_->Show(report.Headline);
-    // A headline so long that it would run under the picture begins behind it instead.
-    const int textWidth = QFontMetrics(lbl1_->font()).horizontalAdvance(lbl1_->text());
-    const int room = PictureFrame.right() + PictureGap;
-    const bool runsUnder = HeadlineFrame.center().x() - textWidth / 2 < room;
-    if (picture != nullptr && runsUnder) {
-        lbl1_->setGeometry(HeadlineFrame.adjusted(room - HeadlineFrame.left(), 0, 0, 0));
-        lbl1_->Show(report.Headline);
-    }
     lbl2_->Show(report.Body);
-    const int width = BodyFrame.width();
-    const int needed = lbl2_->heightForWidth(width);
-    const bool scrolls = needed > BodyFrame.height();
-    const int bar = scrolls ? scroll_->verticalScrollBar()->sizeHint().width() : 0;
-    lbl2_->resize(width - bar, scrolls ? lbl2_->heightForWidth(width - bar) : BodyFrame.height());
+    LayOut();
     scroll_->verticalScrollBar()->setValue(0);
     winId();
     windowHandle()->setTransientParent(owner != nullptr ? owner->windowHandle() : nullptr);
@@ -75,6 +62,21 @@ void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* ow
     Present();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void frmReport::LayOut() {
+    lbl1_->Refit(HeadlineFrame);
+    // A headline so long that it would run under the picture begins behind it instead.
+    const int textWidth = QFontMetrics(lbl1_->font()).horizontalAdvance(lbl1_->text());
+    const int room = PictureFrame.right() + PictureGap;
+    const bool runsUnder = Zoomed(HeadlineFrame).center().x() - textWidth / 2 < Zoomed(room);
+    if (imgC_->isVisibleTo(this) && runsUnder) {
+        lbl1_->Refit(HeadlineFrame.adjusted(room - HeadlineFrame.left(), 0, 0, 0));
+    }
+    const QSize body = scroll_->size();
+    const bool scrolls = lbl2_->heightForWidth(body.width()) > body.height();
+    const int width = body.width() - (scrolls ? scroll_->verticalScrollBar()->sizeHint().width() : 0);
+    lbl2_->resize(width, scrolls ? lbl2_->heightForWidth(width) : body.height());
 }
 
 bool frmReport::CloseRequested() {

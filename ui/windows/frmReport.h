@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QScrollArea>
+
 #include "turn/report.h"
 #include "ui/parts/screen.h"
-
-class QScrollArea;
 
 namespace vorlund {
 
@@ -26,13 +26,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void LayOut();
     bool Scroll(int key);
 
     GameNavigation& navigation_;
     PictureLabel* imgC_;
     TextLabel* lbl1_;
     TextLabel* lbl2_;
-    QScrollArea* scroll_;
+    Placed<QScrollArea>* scroll_;
 };
 
 }  // namespace vorlund

@@ -168,7 +168,7 @@ void OwnerMap::Compose(const QRect& part) {
     // The same pixels, to be counted as such
     QImage canvas(composed_.bits(), composed_.width(), composed_.height(), composed_.bytesPerLine(),
                   composed_.format());
-    QPainter(&canvas).drawPixmap(pixels, picture_.At(ratio_), pixels);
+    QPainter(&canvas).drawPixmap(pixels, picture_.At(ratio_ / Zoom::OfApplication().Factor()), pixels);
 }
 
 /// The distance of every pixel of the part, row by row, from the nearest front.

@@ -1,0 +1,74 @@
+#include "ui/parts/zoom.h"
+
+#include <QCoreApplication>
+#include <QFontInfo>
+#include <QPointer>
+#include <QToolTip>
+#include <algorithm>
+#include <cmath>
+
+namespace vorlund {
+
+Zoom& Zoom::OfApplication() {
+    static QPointer<Zoom> zoom;
+    if (zoom.isNull()) {
+        zoom = new Zoom;
+        zoom->setParent(QCoreApplication::instance());
+    }
+    return *zoom;
+}
+
+Zoom::Zoom() : toolTips_(QToolTip::font()) {}
+
+void Zoom::Set(qreal factor) {
+    if (factor_ != factor) {
+        factor_ = factor;
+        QToolTip::setFont(Zoomed(toolTips_));
+        emit Changed();
+    }
+}
+
+void Zoom::Step(int by) {
+    const auto* now = std::find(Steps.begin(), Steps.end(), factor_);
+    const auto next = std::clamp<std::ptrdiff_t>(now - Steps.begin() + by, 0, Steps.size() - 1);
+    Set(Steps[static_cast<std::size_t>(next)]);
+}
+
+void Zoom::In() {
+    Step(1);
+}
+
+void Zoom::Out() {
+    Step(-1);
+}
+
+qreal StartingZoom(QSize board, QSize room, bool desktopIsScaled) {
+    constexpr int frameHeight = 60;  // pixels; desktops' title bars are lower than that
+    if (desktopIsScaled || room.width() <= 2 * board.width() || room.height() <= 2 * board.height()) {
+        return 1.0;
+    }
+    return room.height() >= 2 * board.height() + frameHeight ? 2.0 : 1.5;
+}
+
+QFont Zoomed(QFont font) {
+    if (const qreal factor = Zoom::OfApplication().Factor(); factor != 1.0) {
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
+    }
+    return font;
+}
+
+int Zoomed(int length) {
+    return static_cast<int>(std::lround(length * Zoom::OfApplication().Factor()));
+}
+
+QSize Zoomed(QSize size) {
+    return {Zoomed(size.width()), Zoomed(size.height())};
+}
+
+QRect Zoomed(const QRect& frame) {
+    const QPoint topLeft(Zoomed(frame.left()), Zoomed(frame.top()));
+    const QPoint end(Zoomed(frame.left() + frame.width()), Zoomed(frame.top() + frame.height()));
+    return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
+
+}  // namespace vorlund
