@@ -49,8 +49,8 @@ void CountLabel::ZoomChanged() {
 }
 
 QRect CountLabel::Plate() const {
-    const int wide =
-        static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) + 2 * Zoomed(PlateMargin);
+    const int wide = static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text()))) +
+                     2 * Zoomed(PlateMargin);
     return {(width() - wide) / 2, Zoomed(PlateTop), wide, Zoomed(PlateHeight)};
 }
 

@@ -33,7 +33,8 @@ class CountLabel : public TextLabel {
 public:
     CountLabel(QWidget* parent, const QString& objectName, const QRect& frame);
 
-    /// A count wider than `room` pixels of the layout, at first the width of the label, is written narrower and smaller.
+    /// A count wider than `room` pixels of the layout, at first the width of the label, is written narrower
+    /// and smaller.
     void SetRoom(int room) { room_ = room; }
 
     /// Where in the label the count is seen.
