@@ -28,10 +28,10 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
     PlaceAt(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
-    ZoomChanged();
+    FitCaption();
 }
 
-void CommandLabel::ZoomChanged() {
+void CommandLabel::FitCaption() {
     // The plate has room for a little more than the box: letters are left as they are if they fit there.
     setFont(Fitted(FontOf(Face::Command), text().remove(u'&'), width() - Zoomed(PlateX)));
 }

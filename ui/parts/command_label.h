@@ -43,11 +43,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void ZoomChanged() override;
+    void ZoomChanged() override { FitCaption(); }
 
 private:
     enum class State { Rest, Hover, Pressed };
 
+    void FitCaption();
     void Become(State state);
     QString KeyTip() const;
     void PaintPlate(QPainter& painter) const;
