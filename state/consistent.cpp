@@ -55,8 +55,7 @@ MaybeFlaw FlawOfOwnership(const GameState& game, int t, std::string_view name) {
 MaybeFlaw FlawOfStanding(const Territory& territory, std::string_view name) {
     constexpr int most = std::numeric_limits<std::int16_t>::max();
     const Units& units = territory.Stationed;
-    if (const auto flaw =
-            OutOfRange(name, {{units.Tanks, "Tanks", 0, most}, {units.Troops, "Troops", 0, most}})) {
+    if (auto flaw = OutOfRange(name, {{units.Tanks, "Tanks", 0, most}, {units.Troops, "Troops", 0, most}})) {
         return flaw;
     }
     const void* const standing = territory.HasDefense   ? static_cast<const void*>(&territory.HasDefense)
