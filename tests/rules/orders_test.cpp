@@ -102,6 +102,7 @@ TEST(Orders, Transport) {
         {"move,.5,2,1", "Move to Vancouver Territory was successful.",
          "1 Anna 1/0; 2 Anna 1/0; Anna MovesLeft 1", "1 Anna 2/0"},
         {"move", "(beep)", "", "Anna MovesLeft 0"},
+        {"move", "(beep)", "", "Anna MovesLeft 3"},  // never given
         {"move,,,x", "Enter a number 1-42 for the territory with the starting units."},
         {"move,x,,x", "Enter a number 1-42 for the destination territory."},
         {"move,x,99,,0|move,7,6,,0.5", NoForce},

@@ -87,6 +87,8 @@ TEST(ReadGame, IsPatientWithFormsAndRefusesABadFileWithItsLine) {
         {18, "False|", "18: Player 1's Owns and the Owner of Alaskan Territory do not agree."},
         {120, "False|", "120: Alaskan Territory must be Occupied when it has an Owner, and only then."},
         {121, " 2 |", "121: Owner of Alaskan Territory must be a player of this game, or 9 for nobody."},
+        {130, "True|", "130: Montreal Territory belongs to nobody, so nothing can stand in it."},
+        {131, "True|", "131: Montreal Territory belongs to nobody, so nothing can stand in it."},
         {135, " 1 |", "135: Montreal Territory belongs to nobody, so nothing can stand in it."},
         {370, " 1 |", "370: CurrentPlayer of the game must be a living human player."},
         {371, " 1 |", "371: DeadPlayers of the game must be 0."},
@@ -103,6 +105,8 @@ TEST(ReadGame, IsPatientWithFormsAndRefusesABadFileWithItsLine) {
     bare.pop_back();
     EXPECT_EQ(Read(bare), "");
     EXPECT_EQ(Read(WriteGame(NewGame(2, "1 Anna 1/0"))), "61: Player 2 owns no territory and must be dead.");
+    EXPECT_EQ(Read(WriteGame(NewGame(2, "8 Ben 1/0; Anna IsDead 1"))),
+              "370: CurrentPlayer of the game must be a living human player.");
     EXPECT_EQ(Read(bare.substr(0, bare.size() - 3)), "371: The file ends before DeadPlayers of the game.");
 }
 

@@ -92,6 +92,7 @@ TEST(FirstFlaw, NamesEachBrokenRecord) {
         {land + "9 Cleo 0/0", "Owner of Mexico must be a player of this game, or 9 for nobody."},
         {land + "9 Anna -1/0", "Troops of Mexico must be a whole number from 0 to 32767."},
         {land + "9 Anna 0/-1", "Tanks of Mexico must be a whole number from 0 to 32767."},
+        {land + "Ben EconomyLevel 4", "EconomyLevel of Player 2 must be a whole number from 0 to 3."},
         {land + "Ben NuclearLevel 4", "NuclearLevel of Player 2 must be a whole number from 0 to 3."},
         {land + "Anna WarfareLevel -1", "WarfareLevel of Player 1 must be a whole number from 0 to 3."},
         {land + "Anna IsDead 1", "Player 1 owns territories and must be alive."},

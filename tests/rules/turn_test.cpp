@@ -17,6 +17,7 @@ TEST(Upkeep, BooksAndReports) {
         // Four territories, an oil field and Economy level 2; a share of a dollar is cut off.
         {"upkeep", report("22 3 187 165"), "Anna Money 265 Oil 12",
          "1 Anna 10/3F 2 Anna 0/0F 3 Anna 0/0 4 Anna 0/0 Anna Money 100 EconomyLevel 2", "0/13"},
+        {"upkeep", report("0 0 50 50"), "Anna Money 50", "Anna EconomyLevel 3", "0/13"},  // of 50.70
         // Missing oil is settled in money; two turns in debt do not matter when money is there again.
         {"upkeep", report("0 7 39 39") + debt, "Anna DebtTurns 1 Money -2", "2 Anna 0/7 Anna Money -34",
          "0/13"},
@@ -86,12 +87,15 @@ TEST(Turn, GoesFromComputerToComputerAndOnToTheNextHuman) {
     Play play(5,
               "1 Anna 1/0 11 Ben 1/0 31 Dora 1/0 41 Emil 1/0 Cleo IsDead 1 Ben IsComputer 1 Dora IsComputer "
               "1 AttacksLeft 0",
-              "0/13");
+              "0/13 0/13");
     play.Then("end", Ended + "'Vorlund - Ben's turn'; ShowReport 2 Ben plays; ");
     play.Then("close", "ShowReport 4 Dora plays; ");  // who gets no attacks after a computer
     play.Then("close", "CloseDialogs; no commands; " + With("Emil 5 5 Emil", TurnBegins), "Emil Money 37");
     EXPECT_FALSE(play.Game.ComputerTurnEnded);
     play.Then("close", "all commands; ");
+    play.Game.ComputerTurnEnded = true;  // as if a computer's report stood before a human
+    play.Then("close", "CloseDialogs; no commands; " + With("Anna 1 1 Anna", TurnBegins),
+              "Anna Money 37 Oil 15");
 }
 
 TEST(Turn, TellsWhyACommandIsMissing) {
