@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """play_by_atspi.py VORLUND: goes through every screen by what a screen reader gets of it, and by nothing else.
 
 Brings its own display, session bus and home; needs xvfb-run, dbus-run-session, at-spi2-core and its Python binding."""
@@ -70,10 +71,13 @@ class Listener:
             time.sleep(0.02)
         raise AssertionError(f"never came: {what}")
 
-    def nodes(self, window):
+    def windows(self):
         program = next(c for c in children(Atspi.get_desktop(0)) if c.get_process_id() == self.process.pid)
         program.set_cache_mask(Atspi.Cache.NONE)  # what is asked for is asked of the program
-        return shown(next(w for w in children(program) if has(w, "SHOWING") and w.get_name() == window))
+        return [w for w in children(program) if has(w, "SHOWING")]
+
+    def nodes(self, window):
+        return shown(next(w for w in self.windows() if w.get_name() == window))
 
     def at(self, window, due, *deeds):
         """What can be done in the window, in its order, is exactly `due`, and no picture is without a name. Then
@@ -147,6 +151,7 @@ def play(game):
         if command in ("Buy", "Sell"):
             game.report("Details on current transaction:")
         elif not deeds:
+            game.wait_for(f"the focus in {title!r}", lambda: any(has(n, "FOCUSED") for n in game.nodes(title)))
             Atspi.generate_keyboard_event(9, None, Atspi.KeySynthType.PRESSRELEASE)  # Escape
     game.at("Vorlund", "image |button OK", "OK")  # the toolkit gives its own sign no name
 
@@ -157,6 +162,7 @@ def load(game):
            "button Load Game (Enter)|button Delete Game (Delete)|button Cancel")
     game.at("Vorlund - Load Game", due, "walk.vrs", "Delete Game")
     game.at("Confirm Delete", "button Yes (Alt+Y)|button No (Alt+N)", "No")
+    game.wait_for("the load screen alone", lambda: len(game.windows()) == 1)
     game.at("Vorlund - Load Game", due, "Load Game")
     game.at(TURN, BOARD)
 

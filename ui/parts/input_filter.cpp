@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/parts/input_filter.h"
 
 #include <QApplication>
@@ -89,8 +90,9 @@ bool InputFilter::Drops(QWindow& window, const QKeyEvent& event) {
         return false;
     }
     QWidget* focus = QApplication::focusWidget();
-    const bool repeats =
-        event.isAutoRepeat() || (real && key.Released && key.ReleaseTime == event.timestamp());
+    // While a screen reader listens, the toolkit delivers copies of the events, which have no time.
+    const bool sameTime = event.timestamp() != 0 && event.timestamp() == key.ReleaseTime;
+    const bool repeats = event.isAutoRepeat() || (real && key.Released && sameTime);
     if (!repeats) {
         key.Window = &window;
         key.Focus = focus;
