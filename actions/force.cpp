@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/force.h"
 
 #include "state/typed_number.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/order.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/sell.h"
 
 #include "state/ownership.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/status.h"
 
 #include "turn/upkeep.h"

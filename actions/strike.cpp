@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/strike.h"
 
 #include "actions/force.h"

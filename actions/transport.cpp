@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/transport.h"
 
 #include "state/ownership.h"

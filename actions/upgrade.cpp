@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "actions/upgrade.h"
 
 #include <array>

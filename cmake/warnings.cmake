@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # The one place that says how strictly the code is compiled. Libraries and programs link it privately.
 add_library(vorlund_warnings INTERFACE)
 target_compile_options(vorlund_warnings INTERFACE

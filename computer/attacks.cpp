@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "computer/attacks.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "computer/computer_turn.h"
 
 #include "computer/attacks.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "computer/expansion.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "computer/reinforcement.h"
 
 #include "computer/borders.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "savegame/folder.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "savegame/format.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "savegame/game_name.h"
 
 #include <algorithm>

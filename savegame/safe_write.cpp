@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "savegame/safe_write.h"
 
 #include <algorithm>

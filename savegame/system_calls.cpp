@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "savegame/system_calls.h"
 
 #include <dirent.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "savegame/windows1252.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "setup/new_game.h"
 
 #include <string_view>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "setup/selection.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "state/consistent.h"
 
 #include <algorithm>

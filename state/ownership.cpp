@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "state/ownership.h"
 
 #include "state/int16.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "state/typed_number.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "turn/commands.h"
 
 namespace vorlund {

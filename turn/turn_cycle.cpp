@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "turn/turn_cycle.h"
 
 #include <cassert>

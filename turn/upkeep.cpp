@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "turn/upkeep.h"
 
 #include <cmath>

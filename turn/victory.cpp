@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "turn/victory.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/game_screens.h"
 
 #include <utility>

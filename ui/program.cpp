@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/program.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The banner that is laid over the board when the game is over and hides what lies under it: a
 dark sheet with a globe in laurel."""
 import math

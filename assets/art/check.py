@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """Measures the pictures that were made: sizes, the contrast of every text colour on the
 grounds, the markers' colours and their difference in grey, the title's clean cut."""
 import collections

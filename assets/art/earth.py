@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Coasts of the real earth, as seen from space and on flat charts."""
 import math
 

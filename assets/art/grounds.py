@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Grounds of the windows: near-black, each with one quiet chart motif. Text of any of the
 game's colours must stay readable on them, so a motif is a shade above its ground and is
 kept out of the strips where the teal status lines stand."""

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The program's icon and the one of its saved games. From 48 pixels up the drawing is
 scaled; the smaller ones are drawn anew on their own pixel grids, each with the letter and the marker alone."""
 from earth import Chart

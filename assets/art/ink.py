@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The pens shared by every picture: colours, SVG snippets and the way to a PNG."""
 import math
 import pathlib

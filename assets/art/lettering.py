@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Engraved capitals for the banner, drawn letter by letter: broad stems, fine hairlines and
 flat serifs on a cap height of 100. Only the letters the game needs are cut."""
 import math

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Player markers and building icons. At scale 1 every pixel is set by hand, at scale 2 the
 same design is drawn as paths. A player is told by the emblem as well as by the colour:
 lozenge, ring, saltire, bars, chevron."""

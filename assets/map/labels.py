@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Where the lettering stands, in pixels: a badge's or derrick's middle, a name's middle."""
 
 NUMBERS = {

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What the signs on the map mean: a small table on the empty sea."""
 import looks
 

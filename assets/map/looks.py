@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Colours and small drawings of the map, as SVG."""
 
 INK, CREAM, BRASS = '#12161b', '#f4ead0', '#c9ac6b'

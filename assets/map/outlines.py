@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Territories in degrees -> shared borders and coasts in pixels -> each territory's outline."""
 import heapq
 import math

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Prints the layers over one another."""
 import io
 import pathlib

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The ground that the map is printed on: hillshade for the land, depth and hillshade for the sea. All arrays
 cover the map's 750 x 428 pixels at GRID samples a pixel."""
 import numpy as np

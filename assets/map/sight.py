@@ -1,4 +1,5 @@
 #!/usr/bin/python3 -B
+# SPDX-License-Identifier: MIT
 """Colours as eyes see them. `./sight.py PICTURE FOLDER` shows a picture of the board in grey and to protan, deutan and
 tritan eyes."""
 import pathlib

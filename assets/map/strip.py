@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The strip below the map: a dark ground for the program's command plates and, under the rule, its roster."""
 import looks
 

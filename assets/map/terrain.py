@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Where the earth rises and falls, as lines in degrees: the crests that the relief is modelled on."""
 
 # Width of the slopes in pixels -> crests on land.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Countries and states -> the 42 territories, as polygons in degrees that share their borders exactly."""
 import pathlib
 import random

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Reads a TopoJSON file."""
 import json
 

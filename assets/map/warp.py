@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Longitude and latitude -> board pixels: a smooth projection, bent so that every anchor meets its marker."""
 import numpy as np
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The world table, read from the program's own source so that there is only one."""
 import collections
 import pathlib

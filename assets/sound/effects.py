@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The click, the gunfire and the explosion."""
 
 import numpy as np

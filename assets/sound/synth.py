@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Building blocks of the sounds: oscillators, envelopes, noise, filters, reverb.
 
 Only additions, multiplications and divisions act on samples. The sine and exponential functions of the C library and

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """The title music: a march in D minor, four bars and a last chord."""
 
 import numpy as np

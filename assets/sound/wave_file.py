@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes mono WAVE files: PCM of 8 and 16 bits, and Microsoft ADPCM."""
 
 import struct

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/engine/games.h"
 
 #include <algorithm>

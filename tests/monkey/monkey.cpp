@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QTest>
 #include <QtWidgets>
 #include <ctime>

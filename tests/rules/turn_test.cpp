@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/rules/play.h"
 
 namespace vorlund {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/screens/colours.h"
 
 #include <algorithm>

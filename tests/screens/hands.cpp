@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/screens/hands.h"
 
 #include <QApplication>

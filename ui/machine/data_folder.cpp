@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/machine/data_folder.h"
 
 #include <QByteArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #define SDL_MAIN_HANDLED
 #include <SDL.h>
 

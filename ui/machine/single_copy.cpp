@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/machine/single_copy.h"
 
 #include <QDir>

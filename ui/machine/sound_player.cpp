@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/machine/sound_player.h"
 
 #include <dlfcn.h>

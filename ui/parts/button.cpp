@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/parts/button.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/parts/command_label.h"
 
 #include <QMouseEvent>

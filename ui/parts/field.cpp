@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/parts/field.h"
 
 #include "ui/parts/keys.h"

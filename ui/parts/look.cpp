@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/parts/look.h"
 
 #include <QFontMetrics>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/command_dialog.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frm1.h"
 
 #include <QMouseEvent>

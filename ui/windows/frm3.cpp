@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frm3.h"
 
 #include <QHelpEvent>

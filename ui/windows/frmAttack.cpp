@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frmAttack.h"
 
 #include "actions/battle.h"

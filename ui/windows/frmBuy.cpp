@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frmBuy.h"
 
 #include "actions/buy.h"

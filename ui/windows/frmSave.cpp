@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frmSave.h"
 
 #include "savegame/game_name.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frmSell.h"
 
 #include "ui/windows/dialog_host.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frmStatus.h"
 
 #include "actions/status.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/frmUpgrade.h"
 
 #include "actions/buy.h"

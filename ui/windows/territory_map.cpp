@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/territory_map.h"
 
 #include "ui/windows/map_lines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ui/windows/territory_text.h"
 
 #include <QStringList>
