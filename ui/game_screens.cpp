@@ -48,12 +48,12 @@ void GameScreens::CloseEverything() {
 void GameScreens::SelectTerritories() {
     selection_.Present([this] {
         auto selection = std::make_unique<frmSelect>(*board_, game_, random_, *this);
-        selection->PlaceOver(*board_, frm3::DialogBottom);
+        selection->PlaceOver(*board_, frm3::LowerEdgeOfDialogs);
         return selection;
     });
 }
 
-void GameScreens::SelectionEnded() {
+void GameScreens::BeginFirstTurn() {
     selection_.CloseOutright();
     turn_.OpenFirstTurn();
 }
@@ -66,7 +66,7 @@ void GameScreens::RunCommand(Command command) {
     SetCommands(CommandSet::None());
     dialogs_[static_cast<std::size_t>(command)].Present([this, command] {
         auto dialog = MakeDialog(command);
-        dialog->PlaceOver(*board_, frm3::DialogBottom);
+        dialog->PlaceOver(*board_, frm3::LowerEdgeOfDialogs);
         return dialog;
     });
 }
@@ -105,7 +105,7 @@ BoardWindow& GameScreens::Board() {
     return *board_;
 }
 
-void GameScreens::DialogClosed() {
+void GameScreens::RestoreCommands() {
     if (game_.GameOver || game_.Current().IsDead) {
         CloseDialogs();
     }
@@ -115,7 +115,7 @@ void GameScreens::DialogClosed() {
     }
 }
 
-void GameScreens::NobodyIsLeft() {
+void GameScreens::EndWithoutWinner() {
     NobodyWins(*this);
 }
 
@@ -142,18 +142,18 @@ void GameScreens::CloseDialogs() {
 }
 
 void GameScreens::ShowActionReport(const Report& report) {
-    PutReport(report, nullptr, nullptr);
+    PresentReport(report, nullptr, nullptr);
 }
 
 void GameScreens::ShowReport(const Report& report, std::optional<int> picturePlayer) {
-    PutReport(report, picturePlayer ? &board_->imgSet(*picturePlayer) : nullptr, board_.get());
+    PresentReport(report, picturePlayer ? &board_->imgSet(*picturePlayer) : nullptr, board_.get());
 }
 
-void GameScreens::PutReport(const Report& report, const Picture* picture, QWidget* owner) {
+void GameScreens::PresentReport(const Report& report, const Picture* picture, QWidget* owner) {
     if (!report_->isVisible()) {
-        report_->PlaceOver(*board_, frm3::ReportBottom);
+        report_->PlaceOver(*board_, frm3::LowerEdgeOfReports);
     }
-    report_->ShowIt(report, picture, owner);
+    report_->ShowReport(report, picture, owner);
 }
 
 void GameScreens::CloseReport() {

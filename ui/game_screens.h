@@ -22,33 +22,33 @@ class frm3;
 class frmReport;
 class frmSelect;
 
-/// A game under way: its turn cycle, and its windows, which are the board, the selection screen, the dialogs
-/// and the report. What is handed in must outlive it.
+/// A running game: owns its turn cycle and its windows (board, territory selection, dialogs and report) and
+/// connects the two. The constructor's references must outlive it.
 class GameScreens final : public Screens, public GameNavigation, public DialogHost {
 public:
-    /// `end` ends the program.
+    /// `end` is called when the player ends the program.
     GameScreens(GameState& game, Random& random, const SavedGamesFolder& saves, Sounds& sounds,
                 std::function<void()> end);
     ~GameScreens() override;
     GameScreens(const GameScreens&) = delete;
     GameScreens& operator=(const GameScreens&) = delete;
 
-    /// Opens the board, for a new game or a loaded one.
+    /// Makes and shows the board, for a new game or a loaded one.
     void OpenBoard();
 
-    /// Closes every window of the game without asking anything.
+    /// Closes every window of the game outright, without a question.
     void CloseEverything();
 
     void SelectTerritories() override;
-    void SelectionEnded() override;
+    void BeginFirstTurn() override;
     void RunCommand(Command command) override;
     bool ReportClosed() override;
     void End() override { end_(); }
 
     BoardWindow& Board() override;
     void ShowActionReport(const Report& report) override;
-    void DialogClosed() override;
-    void NobodyIsLeft() override;
+    void RestoreCommands() override;
+    void EndWithoutWinner() override;
 
     void RefreshMap() override;
     void SetCommands(CommandSet available) override;
@@ -61,7 +61,7 @@ public:
 
 private:
     std::unique_ptr<CommandDialog> MakeDialog(Command command);
-    void PutReport(const Report& report, const Picture* picture, QWidget* owner);
+    void PresentReport(const Report& report, const Picture* picture, QWidget* owner);
 
     GameState& game_;
     Random& random_;
@@ -69,7 +69,7 @@ private:
     Sounds& sounds_;
     std::function<void()> end_;
     TurnCycle turn_;
-    // The other windows belong to the board's, so they are destroyed before it.
+    // Declared first of the windows: the others are its child windows and must be destroyed before it.
     std::unique_ptr<frm3> board_;
     std::unique_ptr<frmReport> report_;
     OwnedWindow<frmSelect> selection_;

@@ -13,37 +13,41 @@
 #include "ui/program.h"
 #include "ui/windows/frm3.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr qreal UsualDotsPerInch = 96;
-constexpr int AnotherCopyRuns = 3;  // the exit status by which ./play knows, for the copy itself says nothing
+constexpr qreal StandardDotsPerInch = 96;
+constexpr int OtherCopyExitStatus = 3;  ///< tells ./play that another copy is running
 
 }  // namespace
 
 int main(int, char** arguments) {
-    // First, because it makes a file size limit harmless, and fonts and lock write files too
+    // First: this ignores SIGXFSZ, and the font cache and the lock file, written below, may hit a size limit
+    // too.
     const vorlund::SavedGamesFolder saves(vorlund::DataFolder() + "/vorlund");
-    // The game has no command line, so the toolkit gets none either.
+    // The game has no command line; do not let the toolkit parse one.
     int count = 1;
     std::array<char*, 2> name{arguments[0], nullptr};
-    vorlund::QuietenSoundServers();
+    vorlund::SilenceSoundServerLogs();
     const QApplication application(count, name.data());
-    QApplication::setApplicationName(QStringLiteral("vorlund"));
-    QApplication::setApplicationVersion(QStringLiteral(VORLUND_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("arpa.home.vorlund"));
+    QApplication::setApplicationName(u"vorlund"_s);
+    QApplication::setApplicationVersion(QString::fromLatin1(VORLUND_VERSION));
+    QApplication::setDesktopFileName(u"arpa.home.vorlund"_s);
     QApplication::setWindowIcon(vorlund::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 
-    // It goes last: the click of Exit is still heard when the windows are gone and another copy may start.
+    // Declared before the lock and the windows, so destroyed after them: its destructor waits for the click
+    // of Exit, while the windows have gone and another copy can start.
     vorlund::SoundPlayer sounds(QApplication::applicationDirPath().toStdString() + VORLUND_SOUND_MODULE);
     const vorlund::SingleCopy copy;
     if (copy.OtherIsRunning()) {
-        return AnotherCopyRuns;
+        return OtherCopyExitStatus;
     }
     const vorlund::InputFilter inputFilter;
     if (const QScreen* screen = QGuiApplication::primaryScreen(); screen != nullptr) {
         const bool scaled =
-            screen->devicePixelRatio() != 1.0 || screen->logicalDotsPerInch() > UsualDotsPerInch;
+            screen->devicePixelRatio() != 1.0 || screen->logicalDotsPerInch() > StandardDotsPerInch;
         vorlund::Zoom::OfApplication().Set(
             vorlund::StartingZoom(vorlund::frm3::Size, screen->availableSize(), scaled));
     }

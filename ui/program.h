@@ -15,8 +15,8 @@ class frm1;
 class frm2;
 class frmLoad;
 
-/// One run of the program: it leads from the title screen to a game and from there to the end, and owns the
-/// windows before the game. What is handed in must outlive it.
+/// One run of the program: owns the title, new-game and load screens and the game's screens, and switches
+/// between them. The constructor's references must outlive it.
 class Program final : public TitleNavigation {
 public:
     Program(GameState& game, Random& random, const SavedGamesFolder& saves, Sounds& sounds);

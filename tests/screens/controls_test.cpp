@@ -100,14 +100,14 @@ TEST(Controls, AReportScrollsAndTheNextBeginsAtItsTop) {
     Sitting sitting;
     struct : GameNavigation {
         void SelectTerritories() override {}
-        void SelectionEnded() override {}
+        void BeginFirstTurn() override {}
         void RunCommand(Command) override {}
         bool ReportClosed() override { return false; }
         void End() override {}
     } navigation;
     frmReport screen(navigation);
     const Report report{"Vorlund - Buy", "Forty lines", QString("line\r").repeated(40).toStdString()};
-    screen.ShowIt(report, nullptr, nullptr);
+    screen.ShowReport(report, nullptr, nullptr);
     const auto bars = screen.findChildren<QScrollBar*>();
     const auto& bar = **std::find_if(bars.begin(), bars.end(), [](auto* b) { return b->maximum() > 0; });
     const int page = bar.pageStep();
@@ -119,7 +119,7 @@ TEST(Controls, AReportScrollsAndTheNextBeginsAtItsTop) {
         Press(key);
         EXPECT_EQ(bar.value(), place) << key;
     }
-    screen.ShowIt(report, nullptr, nullptr);
+    screen.ShowReport(report, nullptr, nullptr);
     EXPECT_EQ(bar.value(), 0);
 }
 

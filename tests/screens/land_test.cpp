@@ -11,6 +11,9 @@
 // The land as it is painted on the board's map, in the colours of those who hold it.
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QSize Board(750, 525);
@@ -28,7 +31,7 @@ struct Land {
         return changed;
     }
 
-    Picture Printed{QStringLiteral("map")};
+    Picture Printed{u"map"_s};
     TerritoryMap Territories;
     OwnerMap Map{Printed, Territories};
     QImage Seen;

@@ -126,7 +126,7 @@ TEST_F(SoundPlayerTest, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
 }
 
 TEST_F(SoundPlayerTest, NothingIsPrintedWhereNothingCanBePlayed) {
-    QuietenSoundServers();
+    SilenceSoundServerLogs();
     qputenv("AUDIODEV", "no-such-card");
     qputenv("PULSE_RUNTIME_PATH", "/proc/none");  // a folder that the server's library fails to make
     for (const char* driver : {"gramophone", "dummy", "pulseaudio", "alsa", ""}) {

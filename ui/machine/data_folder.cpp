@@ -8,7 +8,7 @@ namespace vorlund {
 
 std::string DataFolder() {
     const QByteArray folder = qgetenv("XDG_DATA_HOME");
-    // One that depends on where the game is started does not count.
+    // A relative path is invalid there and ignored.
     return (folder.startsWith('/') ? folder : qgetenv("HOME") + "/.local/share").toStdString();
 }
 

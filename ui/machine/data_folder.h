@@ -5,7 +5,8 @@
 
 namespace vorlund {
 
-/// The folder of the user's data, in the bytes of its name: the toolkit knows no name that is not UTF-8.
+/// The user's data folder, $XDG_DATA_HOME or ~/.local/share, as the bytes of its path. Not a QString, which
+/// cannot represent a path that is not UTF-8.
 std::string DataFolder();
 
 }  // namespace vorlund

@@ -13,19 +13,23 @@
 
 #include "ui/machine/sound_orders.h"
 
-// The module by which the game speaks to SDL.
+// The sound module: the only code that calls SDL.
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
 
-// In the order of Wave
-constexpr std::array kFiles{":/sound/beep.wav", ":/sound/vrl1.wav", ":/sound/gun.wav", ":/sound/explode.wav"};
-constexpr int kRate = 22050;
-constexpr Uint16 kBufferedSamples = 512;  // 23 ms, so a click is heard at once and the device closes quickly
-constexpr auto kLinger = 1s;  // what the device may still hold when the last sample has been handed over
-constexpr auto kPollInterval = 10ms;
+/// In the order of Wave
+constexpr std::array<QStringView, 4> FileNames{u":/sound/beep.wav", u":/sound/vrl1.wav", u":/sound/gun.wav",
+                                               u":/sound/explode.wav"};
+constexpr int SampleRate = 22050;
+constexpr Uint16 BufferedSamples = 512;  ///< 23 ms of latency, for the start of a click and for closing
+constexpr auto DeviceLatency = 1s;       ///< how long a device may still play after SDL's queue is empty
+constexpr auto PollInterval = 10ms;
 
 using AlsaErrorHandler = void (*)(const char*, int, const char*, int, const char*, ...);
 
@@ -34,19 +38,18 @@ void IgnoreAlsaError(const char*, int, const char*, int, const char*, ...) {}
 void Prepare() {
     SDL_SetMainReady();
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "dropframe");  // the gunfire ends in a short block
+    SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "dropframe");  // the gunfire's last ADPCM block is short
     SDL_LogSetOutputFunction(nullptr, nullptr);
     using Setter = int (*)(AlsaErrorHandler);
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a library gives its functions so
-    if (auto set = reinterpret_cast<Setter>(
-            QLibrary::resolve(QStringLiteral("asound"), 2, "snd_lib_error_set_handler"))) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dynamic symbols have no type
+    if (auto set = reinterpret_cast<Setter>(QLibrary::resolve(u"asound"_s, 2, "snd_lib_error_set_handler"))) {
         set(IgnoreAlsaError);
     }
 }
 
-// Samples of a recording in the device's format, native 16-bit mono at kRate; none if it cannot be read.
+/// Decodes a recording to the device's format, native 16-bit mono at SampleRate. Empty if that fails.
 std::vector<Uint8> LoadWave(Wave wave) {
-    QFile file(QString::fromLatin1(kFiles.at(static_cast<std::size_t>(wave))));
+    QFile file(FileNames.at(static_cast<std::size_t>(wave)).toString());
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -62,7 +65,8 @@ std::vector<Uint8> LoadWave(Wave wave) {
     SDL_FreeWAV(decoded);
 
     SDL_AudioCVT conversion{};
-    if (SDL_BuildAudioCVT(&conversion, form.format, form.channels, form.freq, AUDIO_S16SYS, 1, kRate) < 0) {
+    if (SDL_BuildAudioCVT(&conversion, form.format, form.channels, form.freq, AUDIO_S16SYS, 1, SampleRate) <
+        0) {
         return {};
     }
     samples.resize(samples.size() * static_cast<std::size_t>(conversion.len_mult));
@@ -76,8 +80,8 @@ std::vector<Uint8> LoadWave(Wave wave) {
     return samples;
 }
 
-// The audio device while it is open. SDL's audio lives no longer than it: its watch for new devices never
-// sleeps.
+/// The open audio device. SDL's audio subsystem is shut down with it, because its hot-plug thread polls as
+/// long as the subsystem runs.
 class Speaker {
 public:
     Speaker() {
@@ -86,10 +90,10 @@ public:
         }
         started_ = true;
         SDL_AudioSpec wish{};
-        wish.freq = kRate;
+        wish.freq = SampleRate;
         wish.format = AUDIO_S16SYS;
         wish.channels = 1;
-        wish.samples = kBufferedSamples;
+        wish.samples = BufferedSamples;
         device_ = SDL_OpenAudioDevice(nullptr, 0, &wish, nullptr, 0);
         SDL_PauseAudioDevice(device_, 0);
     }
@@ -120,8 +124,8 @@ private:
     SDL_AudioDeviceID device_ = 0;
 };
 
-// Plays `samples` on `speaker`, which is opened where it is closed or its device has died, and left closed
-// where none can be had. Gives the time after which the device may be closed.
+/// Plays `samples`, first opening `speaker` if it is closed or its device has been lost; it stays empty if no
+/// device can be opened. Returns how long to wait before checking whether the device can be closed.
 std::chrono::milliseconds Play(const std::vector<Uint8>& samples, std::optional<Speaker>& speaker) {
     if (speaker && !speaker->IsAlive()) {
         speaker.reset();
@@ -134,31 +138,32 @@ std::chrono::milliseconds Play(const std::vector<Uint8>& samples, std::optional<
     } else {
         speaker.reset();
     }
-    return kLinger + std::chrono::milliseconds(samples.size() * 500 / kRate);
+    return DeviceLatency + std::chrono::milliseconds(samples.size() * 500 / SampleRate);
 }
 
-void PlayUntilTheEnd(SoundOrders& orders) {
+void RunPlaybackLoop(SoundOrders& orders) {
     std::optional<Speaker> speaker;
     Wave playing{};
-    std::chrono::milliseconds patience{};
-    std::unique_lock lock(orders.mutex);
-    while (!orders.ending || orders.wanted == Wave::Beep) {
-        if (orders.wanted) {
-            playing = *std::exchange(orders.wanted, std::nullopt);
+    std::chrono::milliseconds closeDelay{};
+    std::unique_lock lock(orders.Mutex);
+    while (!orders.Ending || orders.Wanted == Wave::Beep) {
+        if (orders.Wanted) {
+            playing = *std::exchange(orders.Wanted, std::nullopt);
             lock.unlock();
-            patience = Play(LoadWave(playing), speaker);
+            closeDelay = Play(LoadWave(playing), speaker);
             lock.lock();
         } else if (!speaker) {
-            orders.changed.wait(lock);
-        } else if (orders.changed.wait_for(lock, patience) == std::cv_status::timeout && speaker->IsQuiet()) {
+            orders.Changed.wait(lock);
+        } else if (orders.Changed.wait_for(lock, closeDelay) == std::cv_status::timeout &&
+                   speaker->IsQuiet()) {
             lock.unlock();
             speaker.reset();
             lock.lock();
         }
     }
-    lock.unlock();  // while the device takes its time
+    lock.unlock();  // closing the device may block
     while (playing == Wave::Beep && speaker && speaker->IsAlive() && !speaker->IsQuiet()) {
-        std::this_thread::sleep_for(kPollInterval);
+        std::this_thread::sleep_for(PollInterval);
     }
     speaker.reset();
 }
@@ -168,6 +173,6 @@ void PlayUntilTheEnd(SoundOrders& orders) {
 
 extern "C" Q_DECL_EXPORT void PlayRecordings(vorlund::SoundOrders& orders) {
     vorlund::Prepare();
-    vorlund::PlayUntilTheEnd(orders);
-    SDL_TLSCleanup();  // SDL frees what belongs to a thread only for threads it made itself
+    vorlund::RunPlaybackLoop(orders);
+    SDL_TLSCleanup();  // SDL frees thread-local data only in threads that it created
 }

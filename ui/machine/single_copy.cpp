@@ -6,27 +6,29 @@
 #include "ui/machine/data_folder.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString LockPath() {
-    // Asked of the environment: the toolkit would invent a folder, and say so on the terminal, where there is
-    // none.
+    // Read from the environment: if there is no such folder, QStandardPaths makes one and prints a warning.
     QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (folder.isEmpty() || !QDir(folder).exists()) {
         const std::string data = DataFolder();
         folder = QString::fromStdString(data);
         if (folder.toStdString() != data) {
-            return {};  // there can be no lock in a folder whose name is not UTF-8
+            return {};  // QLockFile cannot open a path that is not UTF-8
         }
         QDir().mkpath(folder);
     }
-    return folder + QStringLiteral("/vorlund.lock");
+    return folder + u"/vorlund.lock"_s;
 }
 
 }  // namespace
 
 SingleCopy::SingleCopy() : lock_(LockPath()) {
-    // The lock of a copy that was killed is recognised by its process, not by its age.
+    // 0: a lock is stale only if its process no longer exists, however old it is.
     lock_.setStaleLockTime(0);
     otherIsRunning_ = !lock_.tryLock(0) && lock_.error() == QLockFile::LockFailedError;
 }

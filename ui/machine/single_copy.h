@@ -5,13 +5,13 @@
 
 namespace vorlund {
 
-/// Says whether another copy of the game is running for this user. As long as the object lives, this copy is
-/// the one.
+/// Holds the lock file that allows one running copy of the game per user. The lock is released with the
+/// object.
 class SingleCopy {
 public:
     SingleCopy();
 
-    /// True only when another copy holds the lock; any other trouble with it lets the game start.
+    /// True if another copy holds the lock. False also when the lock cannot be created: the game starts then.
     bool OtherIsRunning() const { return otherIsRunning_; }
 
 private:

@@ -9,17 +9,18 @@
 
 namespace vorlund {
 
-/// What the user interface and the thread that plays the recordings have to tell each other.
+/// The state shared by the user interface and the sound thread, guarded by Mutex.
 struct SoundOrders {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::optional<Wave> wanted;  ///< the recording to play next
-    bool ending = false;         ///< asked for by the user interface
-    bool ended = false;          ///< said by the thread
+    std::mutex Mutex;
+    std::condition_variable Changed;
+    std::optional<Wave> Wanted;  ///< the recording to play next
+    bool Ending = false;         ///< set by the user interface: the thread is to end
+    bool Ended = false;          ///< set by the thread when it ends
 };
 
-/// The function of the sound module by its name there, `PlayRecordings`: plays what is wanted until the end
-/// is asked for. A click is then still heard out; anything else is cut off.
+/// The type of the sound module's only exported function, `PlayRecordings`. It plays what is set in Wanted
+/// and returns once Ending is set, after a click (Wave::Beep) that is still playing; other recordings are cut
+/// off.
 using PlayRecordingsFunction = void(SoundOrders&);
 
 }  // namespace vorlund

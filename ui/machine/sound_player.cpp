@@ -15,21 +15,21 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kFarewell = 1s;  // a healthy device opens, plays the click and closes in half of that
+constexpr auto ShutdownTimeout = 1s;  ///< opening a device, playing the click and closing take half of that
 
-void Work(const std::string& module, SoundOrders& orders) {
+void RunThread(const std::string& module, SoundOrders& orders) {
     if (void* library = dlopen(module.c_str(), RTLD_NOW)) {
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a library gives its functions so
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dynamic symbols have no type
         reinterpret_cast<PlayRecordingsFunction*>(dlsym(library, "PlayRecordings"))(orders);
     }
-    const std::lock_guard lock(orders.mutex);
-    orders.ended = true;
-    orders.changed.notify_all();
+    const std::lock_guard lock(orders.Mutex);
+    orders.Ended = true;
+    orders.Changed.notify_all();
 }
 
 }  // namespace
 
-void QuietenSoundServers() {
+void SilenceSoundServerLogs() {
     setenv("PULSE_LOG_SYSLOG", "1", 0);
     setenv("PIPEWIRE_DEBUG", "0", 0);
 }
@@ -41,10 +41,10 @@ SoundPlayer::~SoundPlayer() {
     if (!thread_.joinable()) {
         return;
     }
-    std::unique_lock lock(orders_->mutex);
-    orders_->ending = true;
-    orders_->changed.notify_all();
-    const bool ended = orders_->changed.wait_for(lock, kFarewell, [this] { return orders_->ended; });
+    std::unique_lock lock(orders_->Mutex);
+    orders_->Ending = true;
+    orders_->Changed.notify_all();
+    const bool ended = orders_->Changed.wait_for(lock, ShutdownTimeout, [this] { return orders_->Ended; });
     lock.unlock();
     if (ended) {
         thread_.join();
@@ -55,10 +55,10 @@ SoundPlayer::~SoundPlayer() {
 
 void SoundPlayer::PlayWave(Wave wave) {
     {
-        const std::lock_guard lock(orders_->mutex);
-        orders_->wanted = wave;
+        const std::lock_guard lock(orders_->Mutex);
+        orders_->Wanted = wave;
     }
-    orders_->changed.notify_all();
+    orders_->Changed.notify_all();
     if (!thread_.joinable()) {
         StartThread();
     }
@@ -66,8 +66,8 @@ void SoundPlayer::PlayWave(Wave wave) {
 
 void SoundPlayer::StartThread() {
     try {
-        thread_ = std::thread([module = module_, orders = orders_] { Work(module, *orders); });
-    } catch (const std::system_error&) {  // the machine has no thread to give: the next recording asks again
+        thread_ = std::thread([module = module_, orders = orders_] { RunThread(module, *orders); });
+    } catch (const std::system_error&) {  // out of threads: the next recording tries again
     }
 }
 

@@ -11,23 +11,24 @@ namespace vorlund {
 
 struct SoundOrders;
 
-/// Asks the sound servers' libraries, which report trouble to the terminal, to be quiet, unless their user
-/// has chosen otherwise. It changes the environment, so it is called before there is a second thread.
-void QuietenSoundServers();
+/// Sets the environment variables that keep the client libraries of PulseAudio and PipeWire from logging to
+/// the terminal, unless they are set already. Call it before any thread is started: setenv is not
+/// thread-safe.
+void SilenceSoundServerLogs();
 
 /// Plays the game's recordings, one at a time, beside the user interface.
 ///
-/// A thread, started with the first recording, does everything that may take its time: it loads the module
-/// that is linked to SDL, opens the audio device for a sound and closes it when all is quiet again, so that a
-/// silent game holds no device and wakes nothing up. Where a thread, SDL or a device cannot be had, the game
-/// is silent; nothing is reported.
+/// Everything that may block happens in a thread that is started with the first recording: it loads the sound
+/// module, opens the audio device for a recording and closes it after the last sample, so that a silent game
+/// holds no device and causes no wake-ups. If the thread, the module or a device is not available, nothing is
+/// played and nothing is reported.
 class SoundPlayer final : public Sounds {
 public:
-    /// `module` is the file of the sound module.
+    /// `module` is the path of the sound module.
     explicit SoundPlayer(std::string module);
 
-    /// Lets a click finish and cuts anything else off. Waits until the device is closed, but no longer than a
-    /// second: a device that hangs is left behind.
+    /// Ends the thread: a click is played to its end, other recordings are cut off. If the thread has not
+    /// ended after a second, because the device hangs, it is detached.
     ~SoundPlayer() override;
 
     SoundPlayer(const SoundPlayer&) = delete;
@@ -39,7 +40,7 @@ private:
     void StartThread();
 
     std::string module_;
-    std::shared_ptr<SoundOrders> orders_;  // shared with the thread, which may outlive this object
+    std::shared_ptr<SoundOrders> orders_;  ///< shared: a detached thread outlives this object
     std::thread thread_;
 };
 

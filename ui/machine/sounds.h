@@ -3,15 +3,15 @@
 
 namespace vorlund {
 
-/// The game's recordings: the click of the title's commands, the title music, gunfire, and an explosion.
+/// The recordings: the click of the title's commands, the title music, gunfire and an explosion.
 enum class Wave { Beep, Vrl1, Gun, Explode };
 
-/// Whoever plays the recordings.
+/// The interface through which the windows play recordings.
 class Sounds {
 public:
     virtual ~Sounds() = default;
 
-    /// Starts `wave` from its beginning in place of the one that is playing, and returns at once.
+    /// Stops the recording that is playing, starts `wave` and returns without waiting for it.
     virtual void PlayWave(Wave wave) = 0;
 };
 

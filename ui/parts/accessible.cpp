@@ -11,7 +11,8 @@
 namespace vorlund {
 namespace {
 
-/// A command, one of several choices, or a toggle.
+/// Reports a button as a push button, a radio button or a check box, and posts its press instead of running
+/// it.
 class AccessibleButton final : public QAccessibleWidget {
 public:
     explicit AccessibleButton(Button& button) : QAccessibleWidget(&button), button_(button) {}
@@ -48,7 +49,8 @@ public:
 
     void doAction(const QString& action) override {
         if (action == pressAction()) {
-            // Not at once: a command may wait for the answer to a message box, and the caller with it.
+            // Posted: a command may open a message box, and the caller on the bus would block until it is
+            // answered.
             button_.PressByEvent();
         } else {
             QAccessibleWidget::doAction(action);
@@ -59,7 +61,7 @@ private:
     Button& button_;
 };
 
-QAccessibleInterface* Describe(const QString&, QObject* object) {
+QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
     if (auto* button = qobject_cast<Button*>(object)) {
         return new AccessibleButton(*button);
     }
@@ -75,7 +77,7 @@ QAccessibleInterface* Describe(const QString&, QObject* object) {
 }  // namespace
 
 void DescribeScreensToAssistiveTechnology() {
-    QAccessible::installFactory(&Describe);
+    QAccessible::installFactory(&MakeInterface);
 }
 
 }  // namespace vorlund

@@ -3,8 +3,8 @@
 
 namespace vorlund {
 
-/// Makes the screens known to assistive technology for what they are: windows, dialogs and alerts, commands
-/// with their keys, pictures. Call it once, before the first screen is opened.
+/// Installs the factory of the accessibility interfaces, which give screens, buttons and pictures their roles
+/// and commands their keys. Call it once, before the first window is made.
 void DescribeScreensToAssistiveTechnology();
 
 }  // namespace vorlund

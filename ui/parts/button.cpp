@@ -14,8 +14,8 @@ void Button::PressByEvent() {
 
 bool Button::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
-        // At once: the toolkit's own click comes a tenth of a second later, whatever has opened or closed
-        // since.
+        // click() instead of the toolkit's animateClick(), which clicks 100 ms later, when another window may
+        // have opened.
         if (isVisible()) {
             click();
         }

@@ -7,8 +7,8 @@
 
 namespace vorlund {
 
-/// What commands and toggles have in common: on every desktop Space presses them and Enter is left to the
-/// window, although some desktop themes count Enter among the keys that press a button.
+/// Base class of commands and toggles. Space presses them; Enter is passed on to the window, even where the
+/// platform theme lists Enter among its press keys.
 class Button : public Placed<QAbstractButton> {
     Q_OBJECT
 
@@ -17,8 +17,8 @@ public:
 
     QSize sizeHint() const override { return size(); }
 
-    /// Clicks the button by an event, as its accelerator would. The event does not arrive while a message box
-    /// waits for an answer.
+    /// Posts the event of an accelerator, which clicks the button when the event loop delivers it. It is
+    /// dropped while a message box is open.
     void PressByEvent();
 
 protected:

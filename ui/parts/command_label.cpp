@@ -8,6 +8,9 @@
 #include "ui/parts/look.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QColor LightPlate(255, 251, 232);
@@ -16,7 +19,7 @@ const QColor DarkPlate(10, 14, 40);
 const QColor DisabledPlate(70, 76, 92);
 const QColor DisabledInk(150, 156, 170);
 constexpr qreal CornerRadius = 4;
-constexpr int MarkWidth = 16;  // the ring of a choice, left of its text
+constexpr int MarkWidth = 16;  ///< the room for the ring of a radio button, left of its text
 
 }  // namespace
 
@@ -25,7 +28,7 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
     : Button(parent) {
     setObjectName(objectName);
     setText(caption);
-    setShortcut({});  // "&" underlines the letter that runs the command; Alt with it does not
+    setShortcut({});  // no Alt accelerator: the window handles the bare letter that "&" underlines
     PlaceAt(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
@@ -33,7 +36,7 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
 }
 
 void CommandLabel::FitCaption() {
-    // The plate has room for a little more than the box: letters are left as they are if they fit there.
+    // The plate is wider than the text's box: a caption that fits the plate keeps its full size.
     setFont(Fitted(FontOf(Face::Command), text().remove(u'&'), width() - Zoomed(PlateX)));
 }
 
@@ -48,14 +51,14 @@ void CommandLabel::SetKey(const QString& key) {
 }
 
 QString CommandLabel::KeyTip() const {
-    return key_.isEmpty() ? QString() : QStringLiteral("Key: ") + key_;
+    return key_.isEmpty() ? QString() : u"Key: "_s + key_;
 }
 
 void CommandLabel::Rest() {
-    Become(State::Rest);
+    SetState(State::Rest);
 }
 
-void CommandLabel::Become(State state) {
+void CommandLabel::SetState(State state) {
     if (state_ != state) {
         state_ = state;
         update();
@@ -80,7 +83,7 @@ void CommandLabel::PaintPlate(QPainter& painter) const {
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(QColor(colour::Focus), 1.3 * zoom));
-        // At the very edge, where no letter reaches: amber is no ground for light blue.
+        // At the edge of the plate, clear of the letters: light blue on amber has too little contrast.
         painter.drawRoundedRect(plate.adjusted(0.1, 0.1, -0.1, -0.1), radius, radius);
     }
 }
@@ -119,16 +122,16 @@ void CommandLabel::paintEvent(QPaintEvent*) {
 void CommandLabel::enterEvent(QEnterEvent* event) {
     Button::enterEvent(event);
     if (isEnabled()) {
-        Become(State::Hover);
-        emit Lit();
+        SetState(State::Hover);
+        emit Hovered();
     }
 }
 
 void CommandLabel::mouseMoveEvent(QMouseEvent* event) {
     Button::mouseMoveEvent(event);
     if (isEnabled()) {
-        Become(State::Hover);
-        emit Lit();
+        SetState(State::Hover);
+        emit Hovered();
     }
     event->accept();
 }
@@ -136,7 +139,7 @@ void CommandLabel::mouseMoveEvent(QMouseEvent* event) {
 void CommandLabel::mousePressEvent(QMouseEvent* event) {
     Button::mousePressEvent(event);
     if (isEnabled()) {
-        Become(State::Pressed);
+        SetState(State::Pressed);
     }
     event->accept();
 }

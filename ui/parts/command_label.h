@@ -7,35 +7,35 @@
 
 namespace vorlund {
 
-/// A command of a screen: a text that is clicked. Dark blue at rest, light blue under the pointer, pale blue
-/// once a mouse button has gone down on it, until the pointer moves. Behind the letters lies a plate that
-/// turns from light to dark with them, so that they can be read in each state whatever the screen shows. A
-/// disabled command is greyed and takes no notice of the mouse.
+/// A clickable text. It is dark blue at rest, light blue under the pointer, and pale blue from a mouse press
+/// until the pointer moves. The plate behind it is light at rest and dark otherwise, which keeps the contrast
+/// of the text above 4.5:1 on any background. A disabled command is grey and does not react to the mouse.
 class CommandLabel : public Button {
     Q_OBJECT
 
 public:
-    /// How far the plate reaches beyond the text's box, to either side and above and below, in pixels.
+    /// By how many pixels of the layout the plate is larger than the text's box on each side.
     static constexpr int PlateX = 5;
     static constexpr int PlateY = 2;
 
-    /// `box` is the place of the text. In `caption` a letter behind "&" is the access letter and is
-    /// underlined; it is no accelerator.
+    /// `box` is the rectangle of the text, in pixels of the layout. The letter after "&" in `caption` is
+    /// underlined; no accelerator is made for it.
     CommandLabel(QWidget* parent, const QString& objectName, const QString& caption, const QRect& box);
 
-    /// Enables the command, or disables it for the reason that its tooltip then gives.
+    /// Enables or disables the command. While it is disabled its tooltip shows `whyNot`, otherwise its key.
     void SetAvailable(bool available, const QString& whyNot);
 
-    /// Tells which key runs the command: in its tooltip, and to those who hear the screen.
+    /// Names the key that runs the command, in the tooltip and for screen readers. The key itself is handled
+    /// by the window.
     void SetKey(const QString& key);
     const QString& Key() const { return key_; }
 
-    /// Puts the command back to its colour at rest.
+    /// Returns the command to its colour at rest.
     void Rest();
 
 signals:
-    /// The pointer has come to, or moved over, this enabled command.
-    void Lit();
+    /// The pointer has entered the enabled command or moved over it.
+    void Hovered();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -50,7 +50,7 @@ private:
     enum class State { Rest, Hover, Pressed };
 
     void FitCaption();
-    void Become(State state);
+    void SetState(State state);
     QString KeyTip() const;
     void PaintPlate(QPainter& painter) const;
     void PaintMark(QPainter& painter, const QColor& ink) const;

@@ -20,11 +20,11 @@ void ComputerToggle::paintEvent(QPaintEvent*) {
     const QColor ink = isChecked()    ? QColor(10, 14, 40)
                        : underMouse() ? QColor(colour::Hover)
                                       : QColor(150, 160, 190);
-    const qreal unit = width() / 21.0;  // a pixel of the layout
+    const qreal unit = width() / 21.0;  // one pixel of the layout, in which the toggle is 21 wide
     painter.setPen(QPen(hasFocus() ? QColor(colour::Focus) : QColor(120, 130, 160), 1.4 * unit));
     painter.setBrush(isChecked() ? QColor(120, 220, 120) : QColor(14, 18, 34));
     painter.drawRoundedRect(QRectF(rect()).adjusted(unit, unit, -unit, -unit), 3 * unit, 3 * unit);
-    // A screen on a foot over a keyboard
+    // The icon: a monitor, its stand and a keyboard
     painter.setPen(QPen(ink, 1.5 * unit));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(5 * unit, 4 * unit, 10 * unit, 7 * unit));

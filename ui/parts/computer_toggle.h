@@ -7,7 +7,7 @@
 
 namespace vorlund {
 
-/// The small picture button beside a name: on, the computer plays that row.
+/// The checkable icon button beside a player's name: when checked, the computer plays that player.
 class ComputerToggle : public Button {
     Q_OBJECT
 

@@ -19,26 +19,27 @@ Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int
     setPalette(colours);
 }
 
-void Field::TakeTerritories(Field* next) {
-    takesTerritories_ = true;
+void Field::AcceptTerritoryClicks(Field* next) {
+    acceptsTerritoryClicks_ = true;
     next_ = next;
 }
 
-void Field::TypeTerritory(int number) {
+void Field::EnterTerritory(int number) {
     setText(QString::number(number));
     window()->activateWindow();
     (next_ != nullptr ? next_ : this)->setFocus();
 }
 
 std::string Field::Typed() const {
-    // The toolkit gives a question mark for half a character; this byte is in no UTF-8.
+    // The conversion turns a lone surrogate into a question mark. 0xFF occurs in no UTF-8 text, so the rules
+    // refuse this one.
     return text().toStdString() + (text().isValidUtf16() ? "" : "\xFF");
 }
 
 void Field::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    if (takesTerritories_) {
-        emit TerritoryWanted();
+    if (acceptsTerritoryClicks_) {
+        emit TerritoryFieldFocused();
     }
 }
 

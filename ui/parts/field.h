@@ -9,37 +9,36 @@
 
 namespace vorlund {
 
-/// A text field of a dialog. It takes any characters up to its length; Enter, on the keypad as well, is a
-/// request of its own.
+/// A single-line text field. Enter, also on the keypad, emits Entered instead of reaching the window.
 class Field : public Placed<QLineEdit> {
     Q_OBJECT
 
 public:
     Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength);
 
-    /// Makes this a field for a territory's number, which a click on the map can type as well. `next` is the
-    /// field for the other territory of the same command, if there is one.
-    void TakeTerritories(Field* next = nullptr);
+    /// Marks the field as one for a territory's number, which a click on the map fills in as well. `next` is
+    /// the field that gets the focus after that; null keeps it here.
+    void AcceptTerritoryClicks(Field* next = nullptr);
 
-    /// Types the number of a territory that was clicked, and moves the keyboard on to the next territory.
-    void TypeTerritory(int number);
+    /// Replaces the text by `number`, activates the window and focuses the next territory's field.
+    void EnterTerritory(int number);
 
-    /// What has been typed, as UTF-8. It is none when it holds half a character, as what is left of a long
-    /// text that was pasted may.
+    /// The text as UTF-8. It is not valid UTF-8 if the text holds a lone surrogate, which is left where the
+    /// maximum length cuts a pasted text.
     std::string Typed() const;
 
 signals:
     void Entered();
 
-    /// This field for a territory's number has got the keyboard.
-    void TerritoryWanted();
+    /// The field is one for a territory's number and has received the focus.
+    void TerritoryFieldFocused();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
-    bool takesTerritories_ = false;
+    bool acceptsTerritoryClicks_ = false;
     Field* next_ = nullptr;
 };
 

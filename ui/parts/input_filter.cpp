@@ -12,7 +12,7 @@
 namespace vorlund {
 namespace {
 
-bool Moves(const QKeyEvent& event) {
+bool IsNavigation(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Left:
         case Qt::Key_Right:
@@ -30,7 +30,7 @@ bool Moves(const QKeyEvent& event) {
     }
 }
 
-bool Edits(const QKeyEvent& event) {
+bool IsEditing(const QKeyEvent& event) {
     constexpr auto commands = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
     return !IsEnter(event) && event.key() != Qt::Key_Escape && (event.modifiers() & commands) == 0;
 }
@@ -64,8 +64,8 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
             if (watched->isWindowType() &&
-                Drops(*static_cast<QWindow*>(watched), *static_cast<QKeyEvent*>(event))) {
-                event->accept();  // an override that nobody accepts would run the accelerator
+                ShouldDrop(*static_cast<QWindow*>(watched), *static_cast<QKeyEvent*>(event))) {
+                event->accept();  // an unaccepted ShortcutOverride triggers the accelerator
                 return true;
             }
             return false;
@@ -73,38 +73,40 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseButtonRelease:
             return watched->isWindowType() &&
-                   Drops(*static_cast<QWindow*>(watched), *static_cast<QMouseEvent*>(event));
+                   ShouldDrop(*static_cast<QWindow*>(watched), *static_cast<QMouseEvent*>(event));
         default:
             return false;
     }
 }
 
-bool InputFilter::Drops(QWindow& window, const QKeyEvent& event) {
-    // Keys without a scan code are made by programs, which may let go and press again within a millisecond.
+bool InputFilter::ShouldDrop(QWindow& window, const QKeyEvent& event) {
+    // Only synthetic keys have no scan code. A program may release and press one within a millisecond, so
+    // equal time stamps do not make that a repeat.
     const quint32 scanCode = event.nativeScanCode();
-    const bool real = scanCode != 0;
-    Key& key = keys_[real ? scanCode : quint64(event.key()) << 32];
+    const bool hardware = scanCode != 0;
+    Key& key = keys_[hardware ? scanCode : quint64(event.key()) << 32];
     if (event.type() == QEvent::KeyRelease) {
         key.Released = true;
         key.ReleaseTime = event.timestamp();
         return false;
     }
     QWidget* focus = QApplication::focusWidget();
-    // While a screen reader listens, the toolkit delivers copies of the events, which have no time.
+    // While an accessibility client listens, the toolkit delivers copies of key events with a time stamp of
+    // 0.
     const bool sameTime = event.timestamp() != 0 && event.timestamp() == key.ReleaseTime;
-    const bool repeats = event.isAutoRepeat() || (real && key.Released && sameTime);
+    const bool repeats = event.isAutoRepeat() || (hardware && key.Released && sameTime);
     if (!repeats) {
         key.Window = &window;
         key.Focus = focus;
         return false;
     }
     const bool inField = focus != nullptr && focus == key.Focus && qobject_cast<QLineEdit*>(focus) != nullptr;
-    return key.Window != &window || !(Moves(event) || (inField && Edits(event)));
+    return key.Window != &window || !(IsNavigation(event) || (inField && IsEditing(event)));
 }
 
-bool InputFilter::Drops(QWindow& window, const QMouseEvent& event) {
+bool InputFilter::ShouldDrop(QWindow& window, const QMouseEvent& event) {
     if (event.type() != QEvent::MouseButtonPress) {
-        // The release, and the double click that follows its press as an event of its own
+        // The release of a dropped press, and the double-click event that the toolkit sends after the press
         return press_.Dropped && event.button() == press_.Button;
     }
     QWidget* target = ControlAt(window, event.position().toPoint());

@@ -12,15 +12,16 @@ class QMouseEvent;
 
 namespace vorlund {
 
-/// One for the application, on which it installs itself: what the players' hands do twice without meaning it
-/// is dropped before a window sees it.
+/// An event filter on the application that drops key repeats and second clicks which would act on a window
+/// that the first press has just opened or uncovered. The application has one.
 ///
-/// A key that is held acts once. Its repeats move within the window in which it went down, and type into the
-/// field that had the focus then; Enter, Escape, accelerators, and letters and Space outside fields do not
-/// repeat. Many X servers report a repeat as an ordinary release and press with one time stamp.
+/// Key repeats are delivered only to the window of the first press: navigation keys always, editing keys
+/// while the field that had the focus then still has it. Enter, Escape, accelerators, and letters and Space
+/// outside fields never repeat. Many X servers report a repeat not as such but as a release and a press with
+/// the same time stamp.
 ///
-/// The second press of a double click, and its release, do nothing when the first one went to another window
-/// or control, or to one that has been hidden, disabled or presented anew since.
+/// The second press of a double click is dropped, with its release, unless it hits the same control as the
+/// first one and that has not been hidden, disabled or presented again in between.
 class InputFilter final : public QObject {
     Q_OBJECT
 
@@ -31,22 +32,22 @@ public:
 
 private:
     struct Key {
-        QPointer<QWindow> Window;  // where it went down
-        QPointer<QWidget> Focus;   // what had the focus then
+        QPointer<QWindow> Window;  ///< of the first press
+        QPointer<QWidget> Focus;   ///< the focus widget then
         bool Released = false;
         ulong ReleaseTime = 0;
     };
     struct Press {
         QPointer<QWidget> Target;
-        int Presented = 0;  // how often the window had been presented
+        int Presented = 0;  ///< Screen::TimesPresented of its window
         Qt::MouseButton Button = Qt::NoButton;
         QPoint Place;
         ulong Time = 0;
         bool Dropped = false;
     };
 
-    bool Drops(QWindow& window, const QKeyEvent& event);
-    bool Drops(QWindow& window, const QMouseEvent& event);
+    bool ShouldDrop(QWindow& window, const QKeyEvent& event);
+    bool ShouldDrop(QWindow& window, const QMouseEvent& event);
 
     QHash<quint64, Key> keys_;
     Press press_;

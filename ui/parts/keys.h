@@ -5,14 +5,15 @@
 
 namespace vorlund {
 
-/// Enter, on the keypad as well.
+/// True for Return and for Enter on the keypad.
 inline bool IsEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 /// True when no modifier key but Shift is down.
 inline bool IsPlain(const QKeyEvent& event) {
-    // AltGr is a modifier of the toolkit's only under X11; the keyboard map calls it Mod5 under Wayland too.
+    // The toolkit reports AltGr as a modifier only on X11. In the native modifiers it is Mod5, on Wayland
+    // too.
     constexpr quint32 altGr = 0x80;
     return (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier &&
            (event.nativeModifiers() & altGr) == 0;

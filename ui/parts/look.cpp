@@ -9,9 +9,12 @@
 #include "ui/parts/zoom.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QFont Make(const QStringList& families, int pixels, bool bold = false, bool italic = false) {
+QFont MakeFont(const QStringList& families, int pixels, bool bold = false, bool italic = false) {
     QFont font;
     font.setFamilies(families);
     font.setPixelSize(Zoomed(pixels));
@@ -32,27 +35,28 @@ int WidestLine(const QFont& font, const QString& text) {
 }  // namespace
 
 QFont FontOf(Face face) {
-    const QStringList sans{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")};
-    const QStringList serif{QStringLiteral("Times New Roman"), QStringLiteral("Liberation Serif")};
-    const QStringList field{QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans")};
+    const QStringList sans{u"Arial"_s, u"Liberation Sans"_s};
+    const QStringList serif{u"Times New Roman"_s, u"Liberation Serif"_s};
+    const QStringList field{u"MS Sans Serif"_s, u"Liberation Sans"_s};
     switch (face) {
         case Face::Status:
-            return Make(sans, 12, true);
+            return MakeFont(sans, 12, true);
         case Face::Heading:
-            return Make(serif, 13, true);
+            return MakeFont(serif, 13, true);
         case Face::Command: {
-            QFont font = Make(sans, 17, true, true);
-            font.setStyleStrategy(QFont::NoFontMerging);  // plain letters: none is looked for in other fonts
+            QFont font = MakeFont(sans, 17, true, true);
+            // Captions are ASCII: searching the fallback fonts would only cost start-up time.
+            font.setStyleStrategy(QFont::NoFontMerging);
             return font;
         }
         case Face::Field:
-            return Make(field, 11, true);
+            return MakeFont(field, 11, true);
         case Face::Count:
-            return Make(sans, 9);
+            return MakeFont(sans, 9);
         case Face::Caption:
             break;
     }
-    return Make(sans, 11);
+    return MakeFont(sans, 11);
 }
 
 QColor ColourOf(Face face) {
@@ -73,15 +77,15 @@ QColor ColourOf(Face face) {
 }
 
 QFont Fitted(QFont font, const QString& text, int width) {
-    constexpr int narrowest =
-        88;                  // per cent; letters narrower than this are harder to read than smaller ones
-    constexpr int step = 4;  // per cent
+    // In per cent: below 88, a smaller font reads better than a narrower one.
+    constexpr int narrowest = 88;
+    constexpr int step = 4;
     const int smallest = Zoomed(7);  // pixels
     const int widest = WidestLine(font, text);
     if (widest <= width || widest == 0) {
         return font;
     }
-    // Every font that is tried is loaded: the first try is the stretch that the widths call for.
+    // Each stretch that is tried loads a font, so start with the one that the ratio of the widths suggests.
     int stretch = std::clamp(100 * width / widest / step * step, narrowest, 100 - step);
     font.setStretch(stretch);
     while (WidestLine(font, text) > width && stretch > narrowest) {
@@ -100,19 +104,19 @@ QString Displayed(std::string_view text) {
 }
 
 QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom) {
-    const QString stem = QStringLiteral(":/pictures/") + name;
-    const qreal pixels = ratio * zoom;  // of the device, for one of the layout
-    if (pixels == 1.0) {
-        return {stem + QStringLiteral(".png")};
+    const QString stem = u":/pictures/"_s + name;
+    const qreal scale = ratio * zoom;  // device pixels per pixel of the layout
+    if (scale == 1.0) {
+        return {stem + u".png"_s};
     }
-    QPixmap picture(stem + QStringLiteral("@2x.png"));
+    QPixmap picture(stem + u"@2x.png"_s);
     if (picture.isNull()) {
-        return picture;  // a screen without a background, such as the title's
+        return picture;  // the title screen has no background
     }
-    // In between two scales the finer picture is brought to the device's own pixels once, not at every paint.
+    // Scale the finer picture to device pixels here, once, rather than in each paint event.
     picture.setDevicePixelRatio(1.0);
-    if (pixels != 2.0) {
-        const QSizeF size = QSizeF(picture.size()) * pixels / 2.0;
+    if (scale != 2.0) {
+        const QSizeF size = QSizeF(picture.size()) * scale / 2.0;
         picture = picture.scaled(size.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
     picture.setDevicePixelRatio(ratio);
@@ -122,7 +126,7 @@ QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom) {
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128}) {
-        icon.addFile(QStringLiteral(":/icons/vorlund-%1.png").arg(size), QSize(size, size));
+        icon.addFile(u":/icons/vorlund-%1.png"_s.arg(size), QSize(size, size));
     }
     return icon;
 }

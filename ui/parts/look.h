@@ -10,40 +10,40 @@
 
 namespace vorlund {
 
-/// The faces in which the game writes.
+/// The text styles of the game.
 enum class Face { Caption, Status, Heading, Command, Field, Count };
 
 namespace colour {
-inline constexpr QRgb Rest = qRgb(0, 0, 192);         ///< a command at rest
-inline constexpr QRgb Hover = qRgb(128, 128, 255);    ///< the pointer is over it
-inline constexpr QRgb Pressed = qRgb(192, 192, 255);  ///< a mouse button went down on it
-inline constexpr QRgb Focus = qRgb(255, 176, 32);     ///< the ring round what has the keyboard
+inline constexpr QRgb Rest = qRgb(0, 0, 192);         ///< command at rest
+inline constexpr QRgb Hover = qRgb(128, 128, 255);    ///< command under the pointer
+inline constexpr QRgb Pressed = qRgb(192, 192, 255);  ///< command after a mouse press
+inline constexpr QRgb Focus = qRgb(255, 176, 32);     ///< ring round the focus widget
 inline constexpr QRgb Caption = qRgb(255, 255, 255);
 inline constexpr QRgb Status = qRgb(0, 128, 128);
 inline constexpr QRgb Heading = qRgb(0, 255, 0);
 inline constexpr QRgb Window = qRgb(0, 0, 0);
 }  // namespace colour
 
-/// The font of a face at the zoom of the application. At zoom 1 its size in pixels is that in points at 96
-/// dots per inch.
+/// The font of a style at the application's zoom. Sizes are in pixels, independent of the desktop's font
+/// resolution.
 QFont FontOf(Face face);
 
-/// The colour in which labels of this face are written.
+/// The text colour of a style.
 QColor ColourOf(Face face);
 
-/// `font`, made narrower and then smaller as far as needed for each line of `text` to fit `width` pixels.
-/// Texts are laid out for one family of fonts and are read with whatever fonts a machine has.
+/// `font`, condensed and then shrunk until each line of `text` fits `width` device-independent pixels or a
+/// lower limit is reached. The layout was measured with one font family, and others may be wider.
 QFont Fitted(QFont font, const QString& text, int width);
 
-/// A text of the rules as the screens draw it: their single carriage returns become line ends of the
-/// toolkit's.
+/// A text of the rules for display: UTF-8 is decoded, and carriage returns become line feeds, at which the
+/// toolkit breaks lines.
 QString Displayed(std::string_view text);
 
-/// The picture of the program called `name`, sharp at a device pixel ratio of `ratio` and as large as `zoom`
-/// asks for.
+/// The picture resource called `name` at `zoom`, in the resolution of a device pixel ratio of `ratio`. Null
+/// if there is none.
 QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom);
 
-/// The program's icon, for its windows: also where the program is not installed and the desktop has none.
+/// The window icon, from the resources: the desktop knows one only where the program is installed.
 QIcon ProgramIcon();
 
 }  // namespace vorlund

@@ -10,9 +10,12 @@
 #include "ui/parts/zoom.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// The screen that `object` is, shows or belongs to.
+/// The screen to which `object`, a widget or a native window, belongs.
 const Screen* ScreenOf(QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     const auto* window = qobject_cast<QWindow*>(object);
@@ -22,13 +25,12 @@ const Screen* ScreenOf(QObject* object) {
     return widget != nullptr ? qobject_cast<const Screen*>(widget->window()) : nullptr;
 }
 
-/// While a message box waits, and until its answer has reached whoever asked, no other window of the game
-/// takes keys, clicks, presses by accelerators or assistive technology, or requests to close; CloseOutright
-/// alone closes one. The box's own modality is not enough: it ends when the box closes, a moment before the
-/// answer arrives, and it does not hold for a window that is itself in the middle of closing.
-class Gate : public QObject {
+/// Drops key, mouse, accelerator, assistive-technology and close events of all screens as long as it lives;
+/// only Screen::CloseOutright still closes one. The modality of the message box does not suffice: it ends
+/// before exec() returns, and it does not keep a window in its own close event from being closed again.
+class InputBlocker : public QObject {
 public:
-    Gate() { qApp->installEventFilter(this); }
+    InputBlocker() { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         switch (event->type()) {
@@ -51,16 +53,16 @@ public:
     }
 };
 
-int Answer(QWidget* owner, QMessageBox::Icon icon, const QString& title, const std::string& text,
+int RunBox(QWidget* owner, QMessageBox::Icon icon, const QString& title, const std::string& text,
            QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, title, Displayed(text), buttons, owner);
     box.setFont(Zoomed(box.font()));
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
-    const auto safe = buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Ok;
-    box.setDefaultButton(safe);
-    box.setEscapeButton(safe);
-    const Gate gate;
+    const auto harmless = buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Ok;
+    box.setDefaultButton(harmless);
+    box.setEscapeButton(harmless);
+    const InputBlocker blocker;
     return box.exec();
 }
 
@@ -69,19 +71,20 @@ constexpr auto YesNo = QMessageBox::Yes | QMessageBox::No;
 }  // namespace
 
 void Exclaim(QWidget* owner, const std::string& text) {
-    Answer(owner, QMessageBox::Warning, QStringLiteral("Vorlund"), text, QMessageBox::Ok);
+    RunBox(owner, QMessageBox::Warning, u"Vorlund"_s, text, QMessageBox::Ok);
 }
 
 void Inform(QWidget* owner, const std::string& text) {
-    Answer(owner, QMessageBox::Information, QStringLiteral("Vorlund"), text, QMessageBox::Ok);
+    RunBox(owner, QMessageBox::Information, u"Vorlund"_s, text, QMessageBox::Ok);
 }
 
 bool Ask(QWidget* owner, const std::string& text, const QString& title) {
-    return Answer(owner, QMessageBox::NoIcon, title, text, YesNo) == QMessageBox::Yes;
+    return RunBox(owner, QMessageBox::NoIcon, title.isEmpty() ? u"Vorlund"_s : title, text, YesNo) ==
+           QMessageBox::Yes;
 }
 
 bool AskWithIcon(QWidget* owner, const std::string& text) {
-    return Answer(owner, QMessageBox::Question, QStringLiteral("Vorlund"), text, YesNo) == QMessageBox::Yes;
+    return RunBox(owner, QMessageBox::Question, u"Vorlund"_s, text, YesNo) == QMessageBox::Yes;
 }
 
 }  // namespace vorlund

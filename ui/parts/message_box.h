@@ -7,19 +7,20 @@
 
 namespace vorlund {
 
-// The four kinds of message box. Each blocks until it is answered. Texts are texts of the rules: plain, their
-// lines ended by carriage returns.
+// The four kinds of message box. Each runs an event loop until it is answered. The texts are plain text from
+// the rules, with carriage returns between lines.
 
-/// A refusal, an error or the end of the game.
+/// Exclamation icon and OK: a refusal, an error or the end of the game.
 void Exclaim(QWidget* owner, const std::string& text);
 
-/// A confirmation.
+/// Information icon and OK: a confirmation.
 void Inform(QWidget* owner, const std::string& text);
 
-/// A question without an icon; true when it was answered with Yes. Enter and Escape say No.
-bool Ask(QWidget* owner, const std::string& text, const QString& title = QStringLiteral("Vorlund"));
+/// Yes and No without an icon; true for Yes. No is the default button and the escape button. An empty title
+/// stands for that of the other kinds, "Vorlund".
+bool Ask(QWidget* owner, const std::string& text, const QString& title = {});
 
-/// The same with a question icon, for leaving a game under way.
+/// As Ask, with a question icon.
 bool AskWithIcon(QWidget* owner, const std::string& text);
 
 }  // namespace vorlund

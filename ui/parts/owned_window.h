@@ -7,21 +7,22 @@
 
 namespace vorlund {
 
-/// The owner's hold on the one window of a kind, which is empty while none is open.
+/// Owns the one window of a kind; empty while none is open.
 ///
-/// A window usually closes from within a handler of its own, so it cannot be destroyed there and then: the
-/// owner disables it, for the second half of a double click may still be delivered to it, lets go of it and
-/// has it deleted once control is back in the event loop. The next opening makes a new one.
+/// A window usually closes within one of its own event handlers, where it must not be destroyed. When it
+/// closes, it is disabled, because a queued second press may still be delivered to it, and deleted by the
+/// event loop (deleteLater). The next Present makes a new window.
 template <class Window>
 class OwnedWindow {
 public:
-    /// Brings the window to the front; `make` makes it if none is open.
+    /// Presents the open window, or the one that `make` returns if none is open.
     template <class Make>
     void Present(Make make) {
         if (window_ == nullptr) {
             window_ = make();
             QObject::connect(
-                window_.get(), &Screen::Closed, window_.get(), [this] { LetGo(); }, Qt::SingleShotConnection);
+                window_.get(), &Screen::Closed, window_.get(), [this] { Release(); },
+                Qt::SingleShotConnection);
         }
         window_->Present();
     }
@@ -39,7 +40,7 @@ public:
     }
 
 private:
-    void LetGo() {
+    void Release() {
         window_->setEnabled(false);
         window_.release()->deleteLater();
     }

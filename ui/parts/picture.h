@@ -9,17 +9,17 @@
 
 namespace vorlund {
 
-/// A picture of the program that is decoded once, when it is first painted, and again only if the device
-/// pixel ratio or the zoom changes.
+/// A picture resource, decoded when it is first painted and cached until the device pixel ratio or the zoom
+/// changes.
 class Picture {
 public:
-    /// `description` says what is seen, to those who do not see it.
+    /// `description` is the text for screen readers.
     explicit Picture(QString name, QString description = {})
         : name_(std::move(name)), description_(std::move(description)) {}
 
     const QString& Description() const { return description_; }
 
-    /// The picture at the zoom of the application, for a device pixel ratio of `ratio`.
+    /// The pixmap at the application's zoom for a device pixel ratio of `ratio`.
     const QPixmap& At(qreal ratio) const;
 
 private:
@@ -30,12 +30,12 @@ private:
     mutable qreal zoom_ = 0;
 };
 
-/// A place on a screen that shows a picture unscaled, cut to its frame.
+/// A label that paints a Picture unscaled, clipped to its frame.
 class PictureLabel : public Placed<QLabel> {
 public:
     PictureLabel(QWidget* parent, const QString& objectName, const QRect& frame);
 
-    /// `picture` must outlive the label, or null shows nothing.
+    /// Shows `picture`, which must outlive the label; null clears it.
     void Show(const Picture* picture);
 
 protected:

@@ -7,8 +7,7 @@
 
 namespace vorlund {
 
-/// A control, a `Base` of the toolkit, that has a frame in its window's layout and stands where the zoom puts
-/// it.
+/// A `Base` widget whose geometry is given in pixels of the layout and follows the zoom.
 template <class Base>
 class Placed : public Base {
 public:
@@ -19,7 +18,7 @@ public:
         });
     }
 
-    /// Moves the control to `frame`, in pixels of the layout.
+    /// Sets the geometry to `frame`, in pixels of the layout.
     void PlaceAt(const QRect& frame) {
         frame_ = frame;
         this->setGeometry(Zoomed(frame_));
@@ -28,7 +27,7 @@ public:
     const QRect& Frame() const { return frame_; }
 
 protected:
-    /// The control has its new size: fonts follow here.
+    /// Called after a change of the zoom has resized the control; overridden to adjust fonts.
     virtual void ZoomChanged() {}
 
 private:

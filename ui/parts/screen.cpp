@@ -11,10 +11,13 @@
 #include <algorithm>
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int FieldHeight = 19;
-constexpr int FocusRing = 3;  // pixels round a field
+constexpr int FocusRing = 3;  ///< the ring's reach beyond a field, in pixels of the layout
 
 Qt::WindowFlags WithFrame(Qt::WindowFlags flags) {
     if (flags.testFlag(Qt::FramelessWindowHint)) {
@@ -22,13 +25,14 @@ Qt::WindowFlags WithFrame(Qt::WindowFlags flags) {
     }
     flags |=
         Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-    // A minimised dialog or report would leave a board without commands and no way back.
+    // No minimise button on dialogs: while a report or dialog is minimised, the board has no command that
+    // brings it back.
     const bool dialog = (flags & Qt::WindowType_Mask) == Qt::Dialog;
     return dialog ? flags : flags | Qt::WindowMinimizeButtonHint;
 }
 
-// Where a frame of this size and place lies on the desktop; its title bar above all, if there is no room for
-// it.
+/// The top left corner that keeps `frame` inside the desktop's work area. A frame larger than that is aligned
+/// with the area's top left corner, which keeps its title bar reachable.
 QPoint OntoDesktop(const QScreen* screen, QRect frame) {
     if (screen != nullptr) {
         const QRect room = screen->availableGeometry();
@@ -53,7 +57,7 @@ Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize 
     setMouseTracking(true);
     QPalette black = palette();
     black.setColor(QPalette::Window, colour::Window);
-    // If its colours differ then, the toolkit paints a window anew when it comes to the front or leaves it.
+    // With equal colours in both groups the toolkit does not repaint the window when it is (de)activated.
     for (int role = 0; role < QPalette::NColorRoles; ++role) {
         const auto colour = static_cast<QPalette::ColorRole>(role);
         black.setBrush(QPalette::Inactive, colour, black.brush(QPalette::Active, colour));
@@ -73,7 +77,7 @@ Screen::Screen(QWidget* owner, const QString& name, const QString& title, QSize 
 
 void Screen::FollowZoom() {
     setFixedSize(Zoomed(size_));
-    setFont(FontOf(Face::Field));  // what is typed into and chosen from inherits its window's font
+    setFont(FontOf(Face::Field));  // inherited by fields and lists; labels set their own
 }
 
 void Screen::ZoomByKeys() {
@@ -86,19 +90,19 @@ void Screen::ZoomByKeys() {
         frame.setSize(size() + border);
         frame.moveCenter(middle);
         move(OntoDesktop(screen(), frame));
-        if (!over_.isNull()) {
-            // Not before the window below has been moved
-            QTimer::singleShot(0, this, [this] { PlaceOver(*over_, bottom_); });
+        if (!placedOver_.isNull()) {
+            // Queued, because the window below may handle this change of the zoom later
+            QTimer::singleShot(0, this, [this] { PlaceOver(*placedOver_, lowerEdge_); });
         }
     });
-    const auto on = [this](const QKeySequence& keys, auto deed) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
+    const auto addShortcut = [this](const QKeySequence& keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
     };
     for (const Qt::Key plus : {Qt::Key_Plus, Qt::Key_Equal}) {
-        on(Qt::CTRL | plus, [&zoom] { zoom.In(); });
+        addShortcut(Qt::CTRL | plus, [&zoom] { zoom.In(); });
     }
-    on(Qt::CTRL | Qt::Key_Minus, [&zoom] { zoom.Out(); });
-    on(Qt::CTRL | Qt::Key_0, [&zoom] { zoom.Set(1.0); });
+    addShortcut(Qt::CTRL | Qt::Key_Minus, [&zoom] { zoom.Out(); });
+    addShortcut(Qt::CTRL | Qt::Key_0, [&zoom] { zoom.Set(1.0); });
 }
 
 void Screen::CloseOutright() {
@@ -121,7 +125,7 @@ void Screen::Present() {
 }
 
 void Screen::SetTitle(std::string_view title) {
-    setWindowTitle(Displayed(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    setWindowTitle(Displayed(title).replace(u"[*]"_s, u"[*][*]"_s));
 }
 
 TextLabel* Screen::AddText(const QString& name, Face face, const QRect& frame, std::string_view text) {
@@ -139,8 +143,8 @@ Field* Screen::AddField(TextLabel* caption, const QString& name, QPoint position
 CommandLabel* Screen::AddCommand(const QString& name, const QString& caption, const QRect& box) {
     auto* command = new CommandLabel(this, name, caption, box);
     commands_.push_back(command);
-    connect(command, &CommandLabel::Lit, this, [this, command] {
-        if (oneAtATime_) {
+    connect(command, &CommandLabel::Hovered, this, [this, command] {
+        if (hoverOneAtATime_) {
             RestCommands(command);
         }
     });
@@ -159,8 +163,8 @@ void Screen::AddLine(const QString& name, QPoint from, int length) {
 }
 
 void Screen::closeEvent(QCloseEvent* event) {
-    // One that is not on the screen has been closed before; a second request may come until it is gone.
-    const bool closes = outright_ || !isVisible() || CloseRequested();
+    // A hidden window has been closed before; until it is deleted it may receive another close event.
+    const bool closes = outright_ || !isVisible() || HandleCloseRequest();
     event->setAccepted(closes);
     if (closes) {
         emit Closed();
@@ -195,7 +199,7 @@ void Screen::paintEvent(QPaintEvent* event) {
 
 void Screen::PaintFocusRing(QPainter& painter) const {
     const QWidget* focus = focusWidget();
-    // Commands and toggles have a ring of their own, and the window none.
+    // Buttons paint a ring themselves; the window itself has none.
     if (focus == nullptr || focus == this || !focus->hasFocus() ||
         qobject_cast<const QAbstractButton*>(focus) != nullptr) {
         return;
@@ -207,14 +211,14 @@ void Screen::PaintFocusRing(QPainter& painter) const {
                             3 * zoom, 3 * zoom);
 }
 
-void Screen::PlaceOver(const QWidget& owner, int bottom) {
-    over_ = &owner;
-    bottom_ = bottom;
+void Screen::PlaceOver(const QWidget& owner, int lowerEdge) {
+    placedOver_ = &owner;
+    lowerEdge_ = lowerEdge;
     const QRect under = owner.geometry();
     QRect place(QPoint(0, 0), size());
     place.moveCenter(under.center());
-    place.moveBottom(under.top() + Zoomed(bottom));
-    // A window is moved by its frame, whose title bar will be as high as the owner's.
+    place.moveBottom(under.top() + Zoomed(lowerEdge));
+    // move() positions the frame. This window's is not known yet; assume a title bar as high as the owner's.
     place.translate(0, owner.frameGeometry().top() - under.top());
     move(OntoDesktop(owner.screen(), place));
 }

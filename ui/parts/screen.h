@@ -17,41 +17,40 @@ class QPainter;
 
 namespace vorlund {
 
-/// What all windows of the game have in common: a size fixed by the layout and the zoom, a background picture
-/// on black, labels, fields and commands at fixed places, the commands' colours under the mouse, and a close
-/// request that a window may refuse.
+/// Base class of the game's windows: a fixed size that follows the zoom, a background picture on black,
+/// helpers that add labels, fields and commands in pixels of the layout, the hover colours of the commands,
+/// and close requests that a window may refuse.
 class Screen : public QWidget {
     Q_OBJECT
 
 public:
-    /// `name` is the screen's own name; its background is the picture of that name unless `background` names
-    /// another. `owner` is the window that it stays in front of, if any.
+    /// `name` becomes the objectName; the background is the picture of that name unless `background` names
+    /// another. `owner`, which may be null, is the parent window, in front of which this one stays.
     Screen(QWidget* owner, const QString& name, const QString& title, QSize size,
            const QString& background = {}, Qt::WindowFlags flags = Qt::Window);
 
-    /// Closes the window without asking what closing it means.
+    /// Closes the window without calling HandleCloseRequest.
     void CloseOutright();
 
-    /// Moves the window over `owner`, in its middle from left to right and with its lower edge `bottom`
-    /// pixels of the layout below the owner's upper one, but onto the desktop in any case. A change of the
-    /// zoom does the same again.
-    void PlaceOver(const QWidget& owner, int bottom);
+    /// Centres the window horizontally on `owner`, with its lower edge `lowerEdge` pixels of the layout below
+    /// the owner's upper edge, moved as needed to lie within the work area. Repeated when the zoom changes.
+    void PlaceOver(const QWidget& owner, int lowerEdge);
 
     bool ClosesOutright() const { return outright_; }
 
-    /// Shows the window, in front and with the keyboard, its commands at rest. A window without an owner that
-    /// has not been moved comes up in the middle of the desktop.
+    /// Shows, raises and activates the window, with its commands in their colour at rest. A window without a
+    /// parent that has not been moved is centred in the work area.
     void Present();
     int TimesPresented() const { return timesPresented_; }
 
-    /// Sets the window's title to a text of the rules, which may hold the toolkit's placeholder "[*]".
+    /// Sets the window title, escaping "[*]", which the toolkit takes for its modification mark.
     void SetTitle(std::string_view title);
 
-    /// What the window is to a screen reader.
+    /// The role reported to assistive technology.
     QAccessible::Role Role() const { return role_; }
 
 signals:
-    /// The window closes, for its owner to let go of it.
+    /// The window has accepted its close event.
     void Closed();
 
 protected:
@@ -61,20 +60,20 @@ protected:
 
     TextLabel* AddText(const QString& name, Face face, const QRect& frame, std::string_view text = {});
 
-    /// A text field named, for those who hear the screen, by the text of `caption`.
+    /// Adds a field; `caption` is its accessible name.
     Field* AddField(TextLabel* caption, const QString& name, QPoint position, int maxLength, int width = 33);
 
     CommandLabel* AddCommand(const QString& name, const QString& caption, const QRect& box);
 
-    /// One command of the window is lit at a time: the others rest when the pointer comes to one.
-    void LightOneAtATime() { oneAtATime_ = true; }
+    /// From now on, hovering over a command returns the others to their colour at rest.
+    void HoverOneAtATime() { hoverOneAtATime_ = true; }
 
-    /// A thin separator line between the two points.
+    /// Adds a horizontal separator of `length` pixels that starts at `from`.
     void AddLine(const QString& name, QPoint from, int length);
 
-    /// Called on every request to close the window that was not made by CloseOutright, however it came. True
-    /// lets the window close.
-    virtual bool CloseRequested() { return true; }
+    /// Called for each close request except CloseOutright, whether it came from a key, a command or the
+    /// window manager. Does what closing means and returns true, or returns false to keep the window open.
+    virtual bool HandleCloseRequest() { return true; }
 
     void closeEvent(QCloseEvent* event) final;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -87,13 +86,13 @@ private:
     void PaintFocusRing(QPainter& painter) const;
     void RestCommands(const CommandLabel* except = nullptr);
 
-    QSize size_;  // of the layout
-    QPointer<const QWidget> over_;
-    int bottom_ = 0;
+    QSize size_;  ///< in pixels of the layout
+    QPointer<const QWidget> placedOver_;
+    int lowerEdge_ = 0;
     Picture background_;
     QAccessible::Role role_;
     std::vector<CommandLabel*> commands_;
-    bool oneAtATime_ = false;
+    bool hoverOneAtATime_ = false;
     bool outright_ = false;
     int timesPresented_ = 0;
 };

@@ -8,7 +8,7 @@
 namespace vorlund {
 namespace {
 
-// Of a count's plate, in pixels
+// The plate of a count, in pixels of the layout
 constexpr int PlateMargin = 1;
 constexpr int PlateTop = 1;
 constexpr int PlateHeight = 11;

@@ -10,16 +10,16 @@
 
 namespace vorlund {
 
-/// A piece of text on a screen: a caption, a status line, a heading. It is plain text always, takes no mouse,
-/// and makes its letters smaller rather than cut them off.
+/// A label of one of the text styles. It shows plain text, is transparent for the mouse, and shrinks its font
+/// rather than clip the text.
 class TextLabel : public Placed<QLabel> {
 public:
     TextLabel(QWidget* parent, const QString& objectName, Face face, const QRect& frame);
 
-    /// Shows a text of the rules; carriage returns end its lines.
+    /// Shows a text of the rules, whose lines are separated by carriage returns.
     void Show(std::string_view text);
 
-    /// Moves the label to `frame` of the layout and fits its text in again.
+    /// Moves the label to `frame`, in pixels of the layout, and fits its font to the new width.
     void Refit(const QRect& frame);
 
 protected:
@@ -29,16 +29,16 @@ private:
     Face face_;
 };
 
-/// The count of troops and tanks on the map, on a dark plate so that it can be read on every ground.
+/// A territory's count of troops and tanks, on a dark plate that keeps it legible on any map colour.
 class CountLabel : public TextLabel {
 public:
     CountLabel(QWidget* parent, const QString& objectName, const QRect& frame);
 
-    /// A count wider than `room` pixels of the layout, at first the width of the label, is written narrower
-    /// and smaller.
+    /// Limits the plate to `room` pixels of the layout by condensing and shrinking the font. The default is
+    /// the label's width.
     void SetRoom(int room) { room_ = room; }
 
-    /// Where in the label the count is seen.
+    /// The painted plate, in coordinates of the label.
     QRect Plate() const;
 
 protected:

@@ -44,7 +44,7 @@ void Zoom::Out() {
 }
 
 qreal StartingZoom(QSize board, QSize room, bool desktopIsScaled) {
-    constexpr int frameHeight = 60;  // pixels; desktops' title bars are lower than that
+    constexpr int frameHeight = 60;  // pixels, an upper bound for title bar and border
     if (desktopIsScaled || room.width() <= 2 * board.width() || room.height() <= 2 * board.height()) {
         return 1.0;
     }

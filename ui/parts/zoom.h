@@ -9,16 +9,16 @@
 
 namespace vorlund {
 
-/// How many pixels of the desktop a pixel of the windows' layouts takes: 1, 1.25, 1.5 or 2, for all windows
-/// alike. Sizes, places and pixel sizes of fonts are written down for 1; controls and windows follow a change
-/// at once. It is not remembered from one run to the next.
+/// The factor from pixels of the layout to the toolkit's device-independent pixels: 1, 1.25, 1.5 or 2, the
+/// same for all windows. Geometry and font sizes in the code are for factor 1; widgets listen to Changed. The
+/// factor is not saved.
 class Zoom : public QObject {
     Q_OBJECT
 
 public:
     static constexpr std::array<qreal, 4> Steps{1.0, 1.25, 1.5, 2.0};
 
-    /// The one of the running application.
+    /// The application's only instance.
     static Zoom& OfApplication();
 
     qreal Factor() const { return factor_; }
@@ -26,7 +26,7 @@ public:
     /// `factor` is one of Steps.
     void Set(qreal factor);
 
-    // The next larger and the next smaller step, where there is one
+    // Step up or down; nothing happens at either end.
     void In();
     void Out();
 
@@ -38,22 +38,22 @@ private:
     void Step(int by);
 
     qreal factor_ = 1.0;
-    QFont toolTips_;  // at zoom 1
+    QFont toolTips_;  ///< tooltip font at factor 1
 };
 
-/// The zoom at which a board of `board` pixels starts on a desktop whose work area has `room`: 2 where the
-/// room is more than twice the board's in both directions, 1.5 where the window's frame would not fit then,
-/// else 1. A desktop that is scaled itself, in its pixels or in its fonts, has chosen already: 1.
+/// The initial factor for a board of size `board` in a work area of size `room`: 2 if the area is more than
+/// twice the board in both directions, but 1.5 if the window frame would not fit then, else 1. Always 1 on a
+/// desktop that scales pixels or fonts itself.
 qreal StartingZoom(QSize board, QSize room, bool desktopIsScaled);
 
-/// A font of the desktop's, for message boxes and tooltips, at the zoom of the application.
+/// A font of the platform theme, scaled by the factor; for message boxes and tooltips.
 QFont Zoomed(QFont font);
 
-/// A length of the layout in pixels of the desktop.
+/// A length of the layout, scaled by the factor.
 int Zoomed(int length);
 QSize Zoomed(QSize size);
 
-/// Both edges are rounded, so that what touches in the layout touches on the desktop.
+/// Rounds the edges, not the size, so that adjacent rectangles stay adjacent.
 QRect Zoomed(const QRect& frame);
 
 }  // namespace vorlund

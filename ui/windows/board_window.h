@@ -5,18 +5,18 @@
 
 namespace vorlund {
 
-/// The board as the windows over it know it: they belong to it, their orders change its map, and clicks on
-/// the map type into their fields.
+/// The board's interface for the dialogs in front of it: the parent window, a map to redraw after an order,
+/// and clicks on the map that fill in their territory fields.
 class BoardWindow : public Screen {
 public:
     using Screen::Screen;
 
-    /// Redraws every territory from the game.
+    /// Updates every territory from the game.
     virtual void RefreshMap() = 0;
 
-    /// A click on a territory types its number into `field` when it is the field for territories that has, or
-    /// last had, the keyboard.
-    virtual void TypeInto(Field& field) = 0;
+    /// Makes `field` a target of clicks on the map: a click on a territory enters its number in the territory
+    /// field that has, or last had, the focus.
+    virtual void AddTerritoryField(Field& field) = 0;
 };
 
 }  // namespace vorlund

@@ -12,33 +12,33 @@ namespace vorlund {
 CommandDialog::CommandDialog(DialogHost& host, const QString& name, const QString& title, QSize size)
     : Screen(&host.Board(), name, title, size, {}, Qt::Dialog), host_(host) {}
 
-void CommandDialog::Settle(const Beep&) {
+void CommandDialog::ShowOutcome(const Beep&) {
     QApplication::beep();
 }
 
-void CommandDialog::Settle(const Refusal& refusal) {
+void CommandDialog::ShowOutcome(const Refusal& refusal) {
     Exclaim(this, refusal.Message);
 }
 
-void CommandDialog::Settle(const Report& report) {
+void CommandDialog::ShowOutcome(const Report& report) {
     host_.Board().RefreshMap();
     host_.ShowActionReport(report);
     close();
 }
 
-void CommandDialog::Offer(CommandLabel& command, const WhyNot& whyNot) {
+void CommandDialog::EnableUnless(CommandLabel& command, const WhyNot& whyNot) {
     command.SetAvailable(!whyNot, Displayed(whyNot.value_or("")));
 }
 
-void CommandDialog::TakeTerritories(std::initializer_list<Field*> fields) {
+void CommandDialog::AcceptTerritoryClicks(std::initializer_list<Field*> fields) {
     for (auto field = fields.begin(); field != fields.end(); ++field) {
-        (*field)->TakeTerritories(field + 1 == fields.end() ? nullptr : *(field + 1));
-        host_.Board().TypeInto(**field);
+        (*field)->AcceptTerritoryClicks(field + 1 == fields.end() ? nullptr : *(field + 1));
+        host_.Board().AddTerritoryField(**field);
     }
 }
 
-bool CommandDialog::CloseRequested() {
-    host_.DialogClosed();
+bool CommandDialog::HandleCloseRequest() {
+    host_.RestoreCommands();
     return true;
 }
 

@@ -12,8 +12,8 @@ namespace vorlund {
 
 class DialogHost;
 
-/// A dialog that a command of the board opens, in front of the board and without blocking it. Escape closes
-/// it, and however it closes, it gives the board its commands back.
+/// Base class of the dialogs that the board's commands open: non-modal children of the board. Escape closes
+/// them. Every close request, except closing outright, restores the board's commands.
 class CommandDialog : public Screen {
     Q_OBJECT
 
@@ -21,21 +21,22 @@ public:
     CommandDialog(DialogHost& host, const QString& name, const QString& title, QSize size);
 
 protected:
-    DialogHost& host() const { return host_; }
+    DialogHost& Host() const { return host_; }
 
-    // What the outcome of an action looks like: a beep, a message box over the dialog that stays as it is, or
-    // the report of what was done, behind which the dialog closes.
-    void Settle(const Beep& beep);
-    void Settle(const Refusal& refusal);
-    void Settle(const Report& report);
+    // Show the outcome of an action: a beep; a message box, after which the dialog stays as it is; or a
+    // report, with which the dialog closes.
+    void ShowOutcome(const Beep& beep);
+    void ShowOutcome(const Refusal& refusal);
+    void ShowOutcome(const Report& report);
 
-    /// Enables a command, or disables it for the reason that its tooltip then gives.
-    static void Offer(CommandLabel& command, const WhyNot& whyNot);
+    /// Enables a command, or disables it with the reason as its tooltip.
+    static void EnableUnless(CommandLabel& command, const WhyNot& whyNot);
 
-    /// Lets a click on the map type into these fields for territories, which belong to one command.
-    void TakeTerritories(std::initializer_list<Field*> fields);
+    /// Makes `fields`, the territory fields of one command, targets of clicks on the map. Each click moves
+    /// the focus to the next of them.
+    void AcceptTerritoryClicks(std::initializer_list<Field*> fields);
 
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

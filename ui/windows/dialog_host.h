@@ -6,22 +6,22 @@
 
 namespace vorlund {
 
-/// What a command dialog asks of the game's other windows.
+/// What a command dialog needs of the game's other windows.
 class DialogHost {
 public:
     virtual ~DialogHost() = default;
 
-    /// The window that dialogs belong to.
+    /// The parent window of the dialogs.
     virtual BoardWindow& Board() = 0;
 
-    /// Shows what the dialog's order has come to.
+    /// Shows the report of the dialog's order.
     virtual void ShowActionReport(const Report& report) = 0;
 
-    /// The player closes the dialog: the board's commands come back.
-    virtual void DialogClosed() = 0;
+    /// Enables the commands that are available; called when the player closes the dialog.
+    virtual void RestoreCommands() = 0;
 
-    /// The dialog's order has killed the last player: the game ends without a winner.
-    virtual void NobodyIsLeft() = 0;
+    /// Ends the game without a winner, after the dialog's order has killed the last player.
+    virtual void EndWithoutWinner() = 0;
 };
 
 }  // namespace vorlund

@@ -9,28 +9,30 @@
 #include "ui/windows/title_navigation.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array<std::string_view, 3> Credits{"Vorlund, a world war.", "For two to five rulers.",
                                                   "Made by the Vorlund team."};
 static_assert(Credits[0].size() == 21 && Credits[1].size() == 23 && Credits[2].size() == 25);
 
-constexpr int MusicDelay = 100;     // milliseconds, twice
-constexpr int TypingInterval = 40;  // milliseconds a character
+constexpr int MusicDelay = 100;     ///< milliseconds of each of the two timers before the music
+constexpr int TypingInterval = 40;  ///< milliseconds per character
 
 }  // namespace
 
 frm1::frm1(Sounds& sounds, TitleNavigation& navigation)
-    : Screen(nullptr, QStringLiteral("frm1"), QStringLiteral("Vorlund"), QSize(400, 223), {},
-             Qt::Window | Qt::FramelessWindowHint),
+    : Screen(nullptr, u"frm1"_s, u"Vorlund"_s, QSize(400, 223), {}, Qt::Window | Qt::FramelessWindowHint),
       sounds_(sounds),
       navigation_(navigation),
-      earth_(QStringLiteral("earth"), QStringLiteral("Vorlund, under a picture of the earth")) {
-    auto* imgEarth = new PictureLabel(this, QStringLiteral("imgEarth"), QRect(96, 16, 208, 100));
+      earth_(u"earth"_s, u"Vorlund, under a picture of the earth"_s) {
+    auto* imgEarth = new PictureLabel(this, u"imgEarth"_s, QRect(96, 16, 208, 100));
     imgEarth->Show(&earth_);
     for (int line = 0; line < 3; ++line) {
-        TextLabel* label = AddText(QStringLiteral("lbl%1").arg(line + 1), Face::Caption,
-                                   QRect(16, 128 + 24 * line, 185, 25));
+        TextLabel* label =
+            AddText(u"lbl%1"_s.arg(line + 1), Face::Caption, QRect(16, 128 + 24 * line, 185, 25));
         label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         QPalette green = label->palette();
         green.setColor(QPalette::WindowText, QColor(colour::Heading));
@@ -38,23 +40,23 @@ frm1::frm1(Sounds& sounds, TitleNavigation& navigation)
         credits_[static_cast<std::size_t>(line)] = label;
     }
     AddCommands();
-    LightOneAtATime();
+    HoverOneAtATime();
     StartTimers();
 }
 
 void frm1::AddCommands() {
-    const auto add = [this](const char* name, const QString& caption, const QRect& box,
+    const auto add = [this](const QString& name, const QString& caption, const QRect& box,
                             void (TitleNavigation::*run)()) {
-        CommandLabel* command = AddCommand(QString::fromLatin1(name), caption, box);
+        CommandLabel* command = AddCommand(name, caption, box);
         command->setFocusPolicy(Qt::TabFocus);
         connect(command, &CommandLabel::clicked, this, [this, run] {
             sounds_.PlayWave(Wave::Beep);
             (navigation_.*run)();
         });
     };
-    add("lblPlay", QStringLiteral("Play Game"), QRect(248, 128, 85, 19), &TitleNavigation::PlayGame);
-    add("lblLoad", QStringLiteral("Load Game"), QRect(246, 152, 89, 19), &TitleNavigation::LoadGame);
-    add("lblExit", QStringLiteral("Exit"), QRect(275, 176, 31, 19), &TitleNavigation::End);
+    add(u"lblPlay"_s, u"Play Game"_s, QRect(248, 128, 85, 19), &TitleNavigation::PlayGame);
+    add(u"lblLoad"_s, u"Load Game"_s, QRect(246, 152, 89, 19), &TitleNavigation::LoadGame);
+    add(u"lblExit"_s, u"Exit"_s, QRect(275, 176, 31, 19), &TitleNavigation::End);
 }
 
 void frm1::StartTimers() {
@@ -87,24 +89,25 @@ void frm1::TypeCredit() {
     tmr3_.stop();
 }
 
-bool frm1::CloseRequested() {
+bool frm1::HandleCloseRequest() {
     navigation_.End();
     return true;
 }
 
 void frm1::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        grip_ = event->globalPosition().toPoint() - pos();
+        dragOffset_ = event->globalPosition().toPoint() - pos();
         dragging_ = true;
     }
 }
 
 void frm1::mouseMoveEvent(QMouseEvent* event) {
-    // The desktop moves the window, if it can. It is not asked when the button goes down: one that is let go
-    // before the window manager has taken the pointer would never end the move.
+    // Let the window manager move the window if it can. Started at the first movement, not at the press: if
+    // the button is released before the window manager grabs the pointer, it never sees the release and the
+    // move does not end.
     dragging_ = dragging_ && !windowHandle()->startSystemMove();
     if (dragging_) {
-        move(event->globalPosition().toPoint() - grip_);
+        move(event->globalPosition().toPoint() - dragOffset_);
     }
     Screen::mouseMoveEvent(event);
 }

@@ -13,8 +13,8 @@ namespace vorlund {
 class Sounds;
 class TitleNavigation;
 
-/// The title screen. It plays the title music, types out the credits and leads to a new game or a saved one.
-/// It has no title bar; it is moved by dragging any point of it that is no command.
+/// The title screen: plays the title music, types out the credits and offers a new game, a saved game and the
+/// end. It has no title bar and is moved by dragging it anywhere outside the commands.
 class frm1 final : public Screen {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     frm1(Sounds& sounds, TitleNavigation& navigation);
 
 protected:
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -39,9 +39,9 @@ private:
     QTimer tmr2_;
     QTimer tmr3_;
     std::array<TextLabel*, 3> credits_{};
-    std::int16_t CreditTicks_ = 0;  // characters typed over all three lines
+    std::int16_t CreditTicks_ = 0;  ///< characters typed in all three lines together
     bool dragging_ = false;
-    QPoint grip_;  // where the window was taken hold of
+    QPoint dragOffset_;  ///< of the pointer from the window's origin
 };
 
 }  // namespace vorlund

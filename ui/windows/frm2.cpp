@@ -12,6 +12,9 @@
 #include "ui/windows/title_navigation.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int FirstRowY = 54;
@@ -20,29 +23,27 @@ constexpr int RowHeight = 30;
 }  // namespace
 
 frm2::frm2(GameState& game, TitleNavigation& navigation)
-    : Screen(nullptr, QStringLiteral("frm2"), QStringLiteral("Vorlund - New Game"), QSize(400, 250)),
+    : Screen(nullptr, u"frm2"_s, u"Vorlund - New Game"_s, QSize(400, 250)),
       game_(game),
       navigation_(navigation) {
-    lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 360, 22));
+    lbl1_ = AddText(u"lbl1"_s, Face::Heading, QRect(20, 14, 360, 22));
     lbl1_->Show("Select the number of players for the game:");
     AddChoices();
     for (int row = 0; row < MaxPlayers; ++row) {
         AddRow(row);
     }
-    CommandLabel* lblCont =
-        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue >"), QRect(278, 216, 98, 19));
+    CommandLabel* lblCont = AddCommand(u"lblCont"_s, u"Continue >"_s, QRect(278, 216, 98, 19));
     lblCont->setFocusPolicy(Qt::TabFocus);
-    lblCont->SetKey(QStringLiteral("Enter"));
+    lblCont->SetKey(u"Enter"_s);
     connect(lblCont, &CommandLabel::clicked, this, &frm2::Cont);
-    LightOneAtATime();
+    HoverOneAtATime();
 }
 
 void frm2::AddChoices() {
     for (int i = 0; i < 4; ++i) {
         const int players = i + MinPlayers;
-        CommandLabel* choice =
-            AddCommand(QStringLiteral("opt%1").arg(players), QStringLiteral("%1 Players").arg(players),
-                       QRect(140, FirstRowY + 6 + 36 * i, 112, 19));
+        CommandLabel* choice = AddCommand(u"opt%1"_s.arg(players), u"%1 Players"_s.arg(players),
+                                          QRect(140, FirstRowY + 6 + 36 * i, 112, 19));
         choice->setCheckable(true);
         choice->setAutoExclusive(true);
         choice->setFocusPolicy(Qt::StrongFocus);
@@ -55,15 +56,15 @@ void frm2::AddChoices() {
 void frm2::AddRow(int number) {
     const int y = FirstRowY + RowHeight * number;
     Row row{};
-    row.lblP = AddText(QStringLiteral("lblP(%1)").arg(number), Face::Caption, QRect(24, y, 104, 19),
+    row.lblP = AddText(u"lblP(%1)"_s.arg(number), Face::Caption, QRect(24, y, 104, 19),
                        "Player " + std::to_string(number + 1) + "'s name:");
-    row.txtN = AddField(row.lblP, QStringLiteral("txtN(%1)").arg(number), QPoint(132, y), MaxNameLength, 150);
-    row.cmp = new ComputerToggle(this, QStringLiteral("cmp(%1)").arg(number), QRect(290, y - 1, 21, 21));
-    row.cmp->setAccessibleName(QStringLiteral("Player %1 is played by the computer").arg(number + 1));
+    row.txtN = AddField(row.lblP, u"txtN(%1)"_s.arg(number), QPoint(132, y), MaxNameLength, 150);
+    row.cmp = new ComputerToggle(this, u"cmp(%1)"_s.arg(number), QRect(290, y - 1, 21, 21));
+    row.cmp->setAccessibleName(u"Player %1 is played by the computer"_s.arg(number + 1));
     row.cmp->setToolTip(row.cmp->accessibleName());
     connect(row.txtN, &Field::Entered, this, &frm2::Cont);
     connect(row.cmp, &ComputerToggle::toggled, this, [row](bool computer) {
-        row.txtN->setText(computer ? QStringLiteral("Computer") : QString());
+        row.txtN->setText(computer ? u"Computer"_s : QString());
         row.txtN->setEnabled(!computer);
     });
     row.lblP->hide();
@@ -119,7 +120,7 @@ void frm2::CheckNames() {
     navigation_.OpenBoard();
 }
 
-bool frm2::CloseRequested() {
+bool frm2::HandleCloseRequest() {
     if (Ask(this,
             "Closing this window will terminate your new game.\rPress 'Yes' to exit or 'No' to return.")) {
         navigation_.End();
@@ -129,7 +130,7 @@ bool frm2::CloseRequested() {
 }
 
 void frm2::keyPressEvent(QKeyEvent* event) {
-    // Enter on a choice or a computer toggle, which leave it to the window
+    // Reaches the window from radio buttons and computer toggles, which ignore Enter
     if (IsEnter(*event)) {
         Cont();
     } else {

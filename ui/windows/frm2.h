@@ -20,7 +20,7 @@ public:
     frm2(GameState& game, TitleNavigation& navigation);
 
 protected:
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -41,7 +41,7 @@ private:
     TextLabel* lbl1_;
     std::array<CommandLabel*, 4> choices_{};
     std::array<Row, MaxPlayers> rows_{};
-    bool choosing_ = true;  // the number of players is not settled yet
+    bool choosing_ = true;  ///< the number of players has not been confirmed yet
 };
 
 }  // namespace vorlund

@@ -17,38 +17,41 @@
 #include "ui/windows/territory_text.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr int SelectionDelay = 20;  // milliseconds
+constexpr int SelectionDelay = 20;  ///< milliseconds
 constexpr int CountWidth = 56;
 
 struct CommandPlace {
-    const char* Name = nullptr;
-    const char* Caption = nullptr;
+    QStringView Name;
+    QStringView Caption;
     QPoint Position;
 };
 
-// In the order of Command
-constexpr std::array<CommandPlace, NumCommands> CommandBar{{{"lblBuy", "&Buy", {112, 436}},
-                                                            {"lblSell", "&Sell", {112, 464}},
-                                                            {"lblTransport", "T&ransport", {244, 436}},
-                                                            {"lblAttack", "&Attack", {244, 464}},
-                                                            {"lblUpgrade", "&Upgrade", {392, 436}},
-                                                            {"lblStatus", "S&tatus", {392, 464}},
-                                                            {"lblEndTurn", "&End Turn", {532, 436}},
-                                                            {"lblSave", "Sa&ve", {532, 464}}}};
+/// In the order of Command
+constexpr std::array<CommandPlace, NumCommands> CommandBar{{{u"lblBuy", u"&Buy", {112, 436}},
+                                                            {u"lblSell", u"&Sell", {112, 464}},
+                                                            {u"lblTransport", u"T&ransport", {244, 436}},
+                                                            {u"lblAttack", u"&Attack", {244, 464}},
+                                                            {u"lblUpgrade", u"&Upgrade", {392, 436}},
+                                                            {u"lblStatus", u"S&tatus", {392, 464}},
+                                                            {u"lblEndTurn", u"&End Turn", {532, 436}},
+                                                            {u"lblSave", u"Sa&ve", {532, 464}}}};
 
-/// The letter behind "&" in the caption, small: the command's key and its accelerator.
+/// The letter after "&" in the caption, in lower case: the key that runs the command.
 QChar LetterOf(Command command) {
-    const QString caption = QString::fromLatin1(CommandBar[static_cast<std::size_t>(command)].Caption);
+    const QStringView caption = CommandBar[static_cast<std::size_t>(command)].Caption;
     return caption[caption.indexOf(u'&') + 1].toLower();
 }
 
-QString Indexed(const char* name, int index) {
-    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
+QString Indexed(const QString& name, int index) {
+    return u"%1(%2)"_s.arg(name).arg(index);
 }
 
-/// The width that the count of territory index `t` can have without running into a neighbour's.
+/// The widest plate that the count of territory index `t` can have without overlapping another count.
 int RoomForCount(int t) {
     constexpr int plateHeight = 12;
     const WorldEntry& territory = World[static_cast<std::size_t>(t)];
@@ -62,25 +65,24 @@ int RoomForCount(int t) {
 }
 
 Picture MarkerOf(int player) {
-    return Picture(QStringLiteral("marker%1").arg(player), QStringLiteral("Player %1").arg(player + 1));
+    return Picture(u"marker%1"_s.arg(player), u"Player %1"_s.arg(player + 1));
 }
 
 }  // namespace
 
 frm3::frm3(const GameState& game, GameNavigation& navigation)
-    : BoardWindow(nullptr, QStringLiteral("frm3"), QStringLiteral("Vorlund"), Size, QStringLiteral("map")),
+    : BoardWindow(nullptr, u"frm3"_s, u"Vorlund"_s, Size, u"map"_s),
       game_(game),
       navigation_(navigation),
       imgSet_{MarkerOf(0), MarkerOf(1), MarkerOf(2), MarkerOf(3), MarkerOf(4)},
-      imgExtraSet_{Picture(QStringLiteral("extra0"), QStringLiteral("Defense")),
-                   Picture(QStringLiteral("extra1"), QStringLiteral("Factory")),
-                   Picture(QStringLiteral("extra2"), QStringLiteral("Factory and defense"))},
-      gameOver_(QStringLiteral("gameover"), QStringLiteral("Game over")),
+      imgExtraSet_{Picture(u"extra0"_s, u"Defense"_s), Picture(u"extra1"_s, u"Factory"_s),
+                   Picture(u"extra2"_s, u"Factory and defense"_s)},
+      gameOver_(u"gameover"_s, u"Game over"_s),
       land_(Background(), map_) {
     setFocusPolicy(Qt::StrongFocus);
     AddMarkers();
     AddCommandBar();
-    imgGameOver_ = new PictureLabel(this, QStringLiteral("imgGameOver"), QRect(29, 32, 692, 381));
+    imgGameOver_ = new PictureLabel(this, u"imgGameOver"_s, QRect(29, 32, 692, 381));
     imgGameOver_->hide();
     tmrFirst_.setSingleShot(true);
     tmrFirst_.setInterval(SelectionDelay);
@@ -94,14 +96,14 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
 void frm3::AddMarkers() {
     for (int t = 0; t < NumTerritories; ++t) {
         Marker marker{};
-        marker.imgCntry = new PictureLabel(this, Indexed("imgCntry", t), QRect(0, 0, 10, 10));
-        marker.imgExtra = new PictureLabel(this, Indexed("imgExtra", t), QRect(0, 0, 10, 10));
+        marker.imgCntry = new PictureLabel(this, Indexed(u"imgCntry"_s, t), QRect(0, 0, 10, 10));
+        marker.imgExtra = new PictureLabel(this, Indexed(u"imgExtra"_s, t), QRect(0, 0, 10, 10));
         markers_[static_cast<std::size_t>(t)] = marker;
     }
-    // The counts lie above all markers, so that a neighbour's marker never covers a digit.
+    // Made after all markers and so stacked above them: a neighbour's marker must not cover a digit.
     for (int t = 0; t < NumTerritories; ++t) {
         Marker& marker = markers_[static_cast<std::size_t>(t)];
-        marker.lblCntry = new CountLabel(this, Indexed("lblCntry", t), QRect(0, 0, CountWidth, 17));
+        marker.lblCntry = new CountLabel(this, Indexed(u"lblCntry"_s, t), QRect(0, 0, CountWidth, 17));
         marker.lblCntry->SetRoom(RoomForCount(t));
         marker.imgCntry->hide();
         marker.imgExtra->hide();
@@ -112,8 +114,8 @@ void frm3::AddMarkers() {
 void frm3::AddCommandBar() {
     for (const Command command : AllCommands) {
         const CommandPlace& place = CommandBar[static_cast<std::size_t>(command)];
-        CommandLabel* label = AddCommand(QString::fromLatin1(place.Name), QString::fromLatin1(place.Caption),
-                                         QRect(place.Position, QSize(90, 19)));
+        CommandLabel* label =
+            AddCommand(place.Name.toString(), place.Caption.toString(), QRect(place.Position, QSize(90, 19)));
         label->setFocusPolicy(Qt::TabFocus);
         label->SetKey(LetterOf(command).toUpper());
         connect(label, &CommandLabel::clicked, this, [this, command] { Run(command); });
@@ -176,7 +178,7 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
 }
 
 void frm3::SetCommands(CommandSet available) {
-    // The keyboard goes back to the board itself: an Enter too many after a report must not run a command.
+    // Take the focus off the command bar: a second Enter after a report must not run the focused command.
     setFocus();
     for (const Command command : AllCommands) {
         const WhyNot whyNot = WhyUnavailable(game_, command);
@@ -197,7 +199,7 @@ void frm3::Run(Command command) {
     }
 }
 
-bool frm3::CloseRequested() {
+bool frm3::HandleCloseRequest() {
     if (!game_.GameOver &&
         !AskWithIcon(this,
                      "Closing this game window will end the game.\rAre you sure you want to continue?")) {
@@ -207,8 +209,8 @@ bool frm3::CloseRequested() {
     return true;
 }
 
-void frm3::TypeInto(Field& field) {
-    connect(&field, &Field::TerritoryWanted, this, [this, &field] { territoryField_ = &field; });
+void frm3::AddTerritoryField(Field& field) {
+    connect(&field, &Field::TerritoryFieldFocused, this, [this, &field] { lastTerritoryField_ = &field; });
 }
 
 void frm3::paintEvent(QPaintEvent* event) {
@@ -221,8 +223,8 @@ void frm3::paintEvent(QPaintEvent* event) {
 
 void frm3::mousePressEvent(QMouseEvent* event) {
     const auto territory = map_.At(event->position() / Zoom::OfApplication().Factor());
-    if (territory && !territoryField_.isNull() && territoryField_->isVisible()) {
-        territoryField_->TypeTerritory(*territory + 1);
+    if (territory && !lastTerritoryField_.isNull() && lastTerritoryField_->isVisible()) {
+        lastTerritoryField_->EnterTerritory(*territory + 1);
     }
     Screen::mousePressEvent(event);
 }
@@ -241,9 +243,9 @@ void frm3::ShowTerritoryTip(const QHelpEvent& event) {
         QToolTip::hideText();
         return;
     }
-    // As plain text: a player's name is whatever was typed.
+    // Escaped: a player may have typed markup as a name.
     const QString tip = FullDescription(game_, *territory).toHtmlEscaped();
-    QToolTip::showText(event.globalPos(), QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip), this);
+    QToolTip::showText(event.globalPos(), u"<p style='white-space:pre'>%1</p>"_s.arg(tip), this);
 }
 
 void frm3::keyPressEvent(QKeyEvent* event) {

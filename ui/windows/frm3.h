@@ -17,34 +17,36 @@ namespace vorlund {
 
 class GameNavigation;
 
-/// The board: the world map with every owner, building and force, and the command bar.
+/// The board: the world map with owners, buildings and forces, and the command bar.
 class frm3 final : public BoardWindow {
     Q_OBJECT
 
 public:
-    // Where windows over the board end, in pixels from its top: reports leave the command bar free, dialogs,
-    // which have taken the commands away, hide it rather than the map.
-    static constexpr int ReportBottom = 428;
-    static constexpr int DialogBottom = 517;
+    // Lower edges of the windows in front of the board, in pixels of the layout from its top. Reports leave
+    // the command bar visible; dialogs cover it, as its commands are disabled then, and leave more of the
+    // map.
+    static constexpr int LowerEdgeOfReports = 428;
+    static constexpr int LowerEdgeOfDialogs = 517;
 
     static constexpr QSize Size{750, 525};  ///< in pixels of the layout
 
     frm3(const GameState& game, GameNavigation& navigation);
 
-    /// Shows the board: a loaded game goes on at once, a new one starts with the selection of territories.
+    /// Presents the board. A loaded game continues at once; a new one begins with the selection of
+    /// territories.
     void Open();
 
     void RefreshMap() override;
     void SetCommands(CommandSet available);
     void ShowGameOver();
 
-    void TypeInto(Field& field) override;
+    void AddTerritoryField(Field& field) override;
 
     /// The marker of player index `player`.
     const Picture& imgSet(int player) const { return imgSet_[static_cast<std::size_t>(player)]; }
 
 protected:
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -75,7 +77,7 @@ private:
     QTimer tmrFirst_;
     TerritoryMap map_;
     OwnerMap land_;
-    QPointer<Field> territoryField_;  // the one that has, or last had, the keyboard
+    QPointer<Field> lastTerritoryField_;  ///< has, or last had, the focus
 };
 
 }  // namespace vorlund

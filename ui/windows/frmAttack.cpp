@@ -7,37 +7,34 @@
 
 namespace vorlund {
 
+using namespace Qt::StringLiterals;
+
 frmAttack::frmAttack(DialogHost& host, GameState& game, Random& random, Sounds& sounds)
-    : CommandDialog(host, QStringLiteral("frmAttack"), QStringLiteral("Vorlund - Attack"), QSize(414, 189)),
+    : CommandDialog(host, u"frmAttack"_s, u"Vorlund - Attack"_s, QSize(414, 189)),
       game_(game),
       random_(random),
       sounds_(sounds) {
     AddBattleHalf();
-    AddLine(QStringLiteral("Line1"), QPoint(22, 108), 370);
+    AddLine(u"Line1"_s, QPoint(22, 108), 370);
     AddStrikeHalf();
     txtC1_->setFocus();
 }
 
 void frmAttack::AddBattleHalf() {
-    AddText(QStringLiteral("lbl1"), Face::Heading, QRect(0, 8, 120, 19), "Normal Attack:")
-        ->setAlignment(Qt::AlignCenter);
-    AddText(QStringLiteral("lblA"), Face::Status, QRect(127, 8, 270, 19), AttacksLeftText(game_));
-    TextLabel* lbl3 =
-        AddText(QStringLiteral("lbl3"), Face::Caption, QRect(16, 40, 110, 19), "Attacking territory #:");
-    TextLabel* label1 =
-        AddText(QStringLiteral("Label1"), Face::Caption, QRect(16, 72, 110, 19), "Defending territory #:");
-    TextLabel* lbl4 =
-        AddText(QStringLiteral("lbl4"), Face::Caption, QRect(176, 40, 102, 19), "Number of Troops:");
-    TextLabel* lbl5 =
-        AddText(QStringLiteral("lbl5"), Face::Caption, QRect(174, 72, 104, 19), "Number of Tanks:");
-    txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(128, 40), 2);
-    txtC2_ = AddField(label1, QStringLiteral("txtC2"), QPoint(128, 72), 2);
-    txtTroops_ = AddField(lbl4, QStringLiteral("txtTroops"), QPoint(280, 40), 3);
-    txtTanks_ = AddField(lbl5, QStringLiteral("txtTanks"), QPoint(280, 72), 3);
-    lblAttack_ = AddCommand(QStringLiteral("lblAttack"), QStringLiteral("Attack"), QRect(336, 56, 60, 19));
-    lblAttack_->SetKey(QStringLiteral("Enter"));
-    Offer(*lblAttack_, WhyNoAttack(game_));
-    TakeTerritories({txtC1_, txtC2_});
+    AddText(u"lbl1"_s, Face::Heading, QRect(0, 8, 120, 19), "Normal Attack:")->setAlignment(Qt::AlignCenter);
+    AddText(u"lblA"_s, Face::Status, QRect(127, 8, 270, 19), AttacksLeftText(game_));
+    TextLabel* lbl3 = AddText(u"lbl3"_s, Face::Caption, QRect(16, 40, 110, 19), "Attacking territory #:");
+    TextLabel* label1 = AddText(u"Label1"_s, Face::Caption, QRect(16, 72, 110, 19), "Defending territory #:");
+    TextLabel* lbl4 = AddText(u"lbl4"_s, Face::Caption, QRect(176, 40, 102, 19), "Number of Troops:");
+    TextLabel* lbl5 = AddText(u"lbl5"_s, Face::Caption, QRect(174, 72, 104, 19), "Number of Tanks:");
+    txtC1_ = AddField(lbl3, u"txtC1"_s, QPoint(128, 40), 2);
+    txtC2_ = AddField(label1, u"txtC2"_s, QPoint(128, 72), 2);
+    txtTroops_ = AddField(lbl4, u"txtTroops"_s, QPoint(280, 40), 3);
+    txtTanks_ = AddField(lbl5, u"txtTanks"_s, QPoint(280, 72), 3);
+    lblAttack_ = AddCommand(u"lblAttack"_s, u"Attack"_s, QRect(336, 56, 60, 19));
+    lblAttack_->SetKey(u"Enter"_s);
+    EnableUnless(*lblAttack_, WhyNoAttack(game_));
+    AcceptTerritoryClicks({txtC1_, txtC2_});
     connect(lblAttack_, &CommandLabel::clicked, this, &frmAttack::Attack);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
         connect(field, &Field::Entered, this, &frmAttack::Attack);
@@ -45,17 +42,15 @@ void frmAttack::AddBattleHalf() {
 }
 
 void frmAttack::AddStrikeHalf() {
-    AddText(QStringLiteral("lbl2"), Face::Heading, QRect(0, 120, 120, 19), "Nuclear Attack:")
+    AddText(u"lbl2"_s, Face::Heading, QRect(0, 120, 120, 19), "Nuclear Attack:")
         ->setAlignment(Qt::AlignCenter);
-    AddText(QStringLiteral("lblN"), Face::Status, QRect(123, 120, 270, 19), BombText(game_));
-    TextLabel* label2 =
-        AddText(QStringLiteral("Label2"), Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
-    txtN_ = AddField(label2, QStringLiteral("txtN"), QPoint(120, 152), 2);
-    lblStrike_ =
-        AddCommand(QStringLiteral("lblStrike"), QStringLiteral("Launch Nuke"), QRect(296, 144, 108, 19));
-    lblStrike_->SetKey(QStringLiteral("Enter"));
-    Offer(*lblStrike_, WhyNoStrike(game_));
-    TakeTerritories({txtN_});
+    AddText(u"lblN"_s, Face::Status, QRect(123, 120, 270, 19), BombText(game_));
+    TextLabel* label2 = AddText(u"Label2"_s, Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
+    txtN_ = AddField(label2, u"txtN"_s, QPoint(120, 152), 2);
+    lblStrike_ = AddCommand(u"lblStrike"_s, u"Launch Nuke"_s, QRect(296, 144, 108, 19));
+    lblStrike_->SetKey(u"Enter"_s);
+    EnableUnless(*lblStrike_, WhyNoStrike(game_));
+    AcceptTerritoryClicks({txtN_});
     connect(lblStrike_, &CommandLabel::clicked, this, &frmAttack::LaunchNuke);
     connect(txtN_, &Field::Entered, this, &frmAttack::LaunchNuke);
 }
@@ -66,7 +61,7 @@ void frmAttack::Attack() {
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Gun);
     }
-    std::visit([this](const auto& result) { Settle(result); }, outcome);
+    std::visit([this](const auto& result) { ShowOutcome(result); }, outcome);
 }
 
 void frmAttack::LaunchNuke() {
@@ -74,7 +69,7 @@ void frmAttack::LaunchNuke() {
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Explode);
     }
-    std::visit([this](const auto& result) { Settle(result); }, outcome);
+    std::visit([this](const auto& result) { ShowOutcome(result); }, outcome);
 }
 
 }  // namespace vorlund

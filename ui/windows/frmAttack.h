@@ -9,7 +9,7 @@ namespace vorlund {
 
 class Sounds;
 
-/// The attack dialog: a battle in its upper half, a nuclear strike in its lower one.
+/// The attack dialog: battle in the upper half, nuclear strike in the lower half.
 class frmAttack final : public CommandDialog {
     Q_OBJECT
 

@@ -5,15 +5,17 @@
 
 namespace vorlund {
 
+using namespace Qt::StringLiterals;
+
 frmBuy::frmBuy(DialogHost& host, GameState& game)
     : TradeDialog(host,
-                  {QStringLiteral("frmBuy"), QStringLiteral("Vorlund - Buy"), QSize(391, 138), 136, 176, 292,
-                   "Territory # with Factory:", BuyingPrices, QStringLiteral("Buy")},
+                  {u"frmBuy"_s, u"Vorlund - Buy"_s, QSize(391, 138), 136, 176, 292,
+                   "Territory # with Factory:", BuyingPrices, u"Buy"_s},
                   MoneyLine(game)),
       game_(game) {}
 
 void frmBuy::Trade() {
-    std::visit([this](const auto& outcome) { Settle(outcome); }, Buy(game_, Entries()));
+    std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, Buy(game_, Entries()));
 }
 
 }  // namespace vorlund

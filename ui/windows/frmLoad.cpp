@@ -11,30 +11,31 @@
 
 namespace vorlund {
 
+using namespace Qt::StringLiterals;
+
 frmLoad::frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation& navigation)
-    : Screen(nullptr, QStringLiteral("frmLoad"), QStringLiteral("Vorlund - Load Game"), QSize(340, 260)),
+    : Screen(nullptr, u"frmLoad"_s, u"Vorlund - Load Game"_s, QSize(340, 260)),
       game_(game),
       saves_(saves),
       navigation_(navigation) {
-    TextLabel* lbl2 = AddText(QStringLiteral("lbl2"), Face::Heading, QRect(16, 12, 308, 20),
-                              "Select a saved game from the list below:");
+    TextLabel* lbl2 =
+        AddText(u"lbl2"_s, Face::Heading, QRect(16, 12, 308, 20), "Select a saved game from the list below:");
     flb1_ = new Placed<QListWidget>(this);
-    flb1_->setObjectName(QStringLiteral("flb1"));
+    flb1_->setObjectName(u"flb1"_s);
     flb1_->PlaceAt(QRect(16, 40, 180, 204));
     flb1_->setUniformItemSizes(true);
     flb1_->viewport()->installEventFilter(this);
     flb1_->setAccessibleName(lbl2->text());
-    const std::array<const char*, 3> captions{"Load Game", "Delete Game", "Cancel"};
-    const std::array<const char*, 3> keys{"Enter", "Delete", ""};
+    const std::array captions{u"Load Game"_s, u"Delete Game"_s, u"Cancel"_s};
+    const std::array keys{u"Enter"_s, u"Delete"_s, QString()};
     for (int i = 0; i < 3; ++i) {
-        CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo(%1)").arg(i),
-                                         QString::fromLatin1(captions[static_cast<std::size_t>(i)]),
+        CommandLabel* lblGo = AddCommand(u"lblGo(%1)"_s.arg(i), captions[static_cast<std::size_t>(i)],
                                          QRect(212, 56 + 40 * i, 112, 19));
         lblGo->setFocusPolicy(Qt::TabFocus);
-        lblGo->SetKey(QString::fromLatin1(keys[static_cast<std::size_t>(i)]));
+        lblGo->SetKey(keys[static_cast<std::size_t>(i)]);
         connect(lblGo, &CommandLabel::clicked, this, [this, i] { CallLoad(i); });
     }
-    LightOneAtATime();
+    HoverOneAtATime();
     FillList();
     flb1_->setFocus();
 }
@@ -43,15 +44,15 @@ void frmLoad::FillList() {
     flb1_->clear();
     const SavedGamesList list = saves_.List();
     for (const std::string& file : list.Files) {
-        // The name as it is on the disk goes along: not every name of bytes is one of characters.
+        // Keep the bytes of the file name: they need not be UTF-8, so the text may not convert back.
         auto* item = new QListWidgetItem(QString::fromStdString(file), flb1_);
         item->setData(Qt::UserRole, QByteArray::fromStdString(file));
     }
-    // Said to the view itself: otherwise the keyboard's coming makes the first game the current one without
-    // selecting it, and an arrow key would step over it.
+    // An explicit invalid index: otherwise the list makes its first row current, but not selected, when it
+    // gets the focus, and the first arrow key would skip that row.
     flb1_->setCurrentIndex({});
     if (list.Error) {
-        // Not before the window is there
+        // Queued: the window is not shown yet
         QMetaObject::invokeMethod(
             this, [this, why = *list.Error] { Exclaim(this, why); }, Qt::QueuedConnection);
     }
@@ -95,7 +96,7 @@ void frmLoad::Load() {
 
 void frmLoad::Delete() {
     const auto file = Selected();
-    if (!file || !Ask(this, DeleteQuestion(*file), QStringLiteral("Confirm Delete"))) {
+    if (!file || !Ask(this, DeleteQuestion(*file), u"Confirm Delete"_s)) {
         return;
     }
     if (const auto error = saves_.Delete(*file)) {
@@ -104,13 +105,13 @@ void frmLoad::Delete() {
     FillList();
 }
 
-bool frmLoad::CloseRequested() {
+bool frmLoad::HandleCloseRequest() {
     navigation_.BackToTitle();
     return true;
 }
 
 void frmLoad::keyPressEvent(QKeyEvent* event) {
-    // Keys that the list leaves to the window
+    // Keys that the list ignores
     if (IsEnter(*event)) {
         CallLoad(0);
     } else if (event->key() == Qt::Key_Delete) {
@@ -121,14 +122,14 @@ void frmLoad::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmLoad::eventFilter(QObject* watched, QEvent* event) {
-    // A game is loaded when the button of a double click is let go, so that the release hits no window
-    // behind.
+    // Load on the release that ends a double click, not on its press: the load closes this window, and the
+    // release would go to the window below.
     if (event->type() == QEvent::MouseButtonDblClick) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         DoubleClicked_ = mouse->button() == Qt::LeftButton && flb1_->itemAt(mouse->pos()) != nullptr;
     } else if (event->type() == QEvent::MouseButtonRelease && DoubleClicked_) {
         DoubleClicked_ = false;
-        // Not from within the list's own handling of the release: the load may end with this window closed.
+        // Queued: the list must finish handling the release before this window closes.
         QMetaObject::invokeMethod(
             this, [this] { CallLoad(0); }, Qt::QueuedConnection);
     }

@@ -13,7 +13,7 @@ namespace vorlund {
 
 class TitleNavigation;
 
-/// The load screen: the saved games, to be resumed or deleted.
+/// The load screen: lists the saved games, resumes or deletes one.
 class frmLoad final : public Screen {
     Q_OBJECT
 
@@ -23,11 +23,11 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// The three commands: load (0), delete (1), cancel (2).
+    /// Runs a command: load (0), delete (1) or cancel (2).
     void CallLoad(int index);
     void Load();
     void Delete();

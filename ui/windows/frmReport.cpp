@@ -10,6 +10,9 @@
 #include "ui/windows/game_navigation.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QRect PictureFrame(120, 20, 10, 10);
@@ -20,35 +23,32 @@ constexpr int PictureGap = 8;
 }  // namespace
 
 frmReport::frmReport(GameNavigation& navigation)
-    : Screen(nullptr, QStringLiteral("frmReport"), QStringLiteral("Vorlund - Report"), QSize(499, 220), {},
-             Qt::Dialog),
+    : Screen(nullptr, u"frmReport"_s, u"Vorlund - Report"_s, QSize(499, 220), {}, Qt::Dialog),
       navigation_(navigation) {
     SetRole(QAccessible::AlertMessage);
-    lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, HeadlineFrame);
+    lbl1_ = AddText(u"lbl1"_s, Face::Heading, HeadlineFrame);
     lbl1_->setAlignment(Qt::AlignCenter);
-    imgC_ = new PictureLabel(this, QStringLiteral("imgC"), PictureFrame);
+    imgC_ = new PictureLabel(this, u"imgC"_s, PictureFrame);
     scroll_ = new Placed<QScrollArea>(this);
     scroll_->PlaceAt(BodyFrame);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->viewport()->setAutoFillBackground(false);
-    scroll_->viewport()->setMouseTracking(true);  // for the commands, which rest when the pointer is here
+    scroll_->viewport()->setMouseTracking(true);  // so that moving here resets the command's hover colour
     scroll_->setMouseTracking(true);
-    lbl2_ =
-        new TextLabel(nullptr, QStringLiteral("lbl2"), Face::Caption, QRect(QPoint(0, 0), BodyFrame.size()));
+    lbl2_ = new TextLabel(nullptr, u"lbl2"_s, Face::Caption, QRect(QPoint(0, 0), BodyFrame.size()));
     lbl2_->setWordWrap(true);
     lbl2_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     scroll_->setWidget(lbl2_);
     lbl2_->setAutoFillBackground(false);
-    CommandLabel* lblCont =
-        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Continue"), QRect(214, 192, 72, 19));
-    lblCont->SetKey(QStringLiteral("Enter"));
+    CommandLabel* lblCont = AddCommand(u"lblCont"_s, u"Continue"_s, QRect(214, 192, 72, 19));
+    lblCont->SetKey(u"Enter"_s);
     connect(lblCont, &CommandLabel::clicked, this, &frmReport::close);
     connect(&Zoom::OfApplication(), &Zoom::Changed, this, &frmReport::LayOut);
 }
 
-void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* owner) {
+void frmReport::ShowReport(const Report& report, const Picture* picture, QWidget* owner) {
     SetTitle(report.Title);
     imgC_->Show(picture);
     imgC_->setVisible(picture != nullptr);
@@ -67,7 +67,7 @@ void frmReport::ShowIt(const Report& report, const Picture* picture, QWidget* ow
 
 void frmReport::LayOut() {
     lbl1_->Refit(HeadlineFrame);
-    // A headline so long that it would run under the picture begins behind it instead.
+    // A centred headline that would overlap the picture is centred to the right of it instead.
     const int textWidth = QFontMetrics(lbl1_->font()).horizontalAdvance(lbl1_->text());
     const int room = PictureFrame.right() + PictureGap;
     const bool runsUnder = Zoomed(HeadlineFrame).center().x() - textWidth / 2 < Zoomed(room);
@@ -80,7 +80,7 @@ void frmReport::LayOut() {
     lbl2_->resize(width, scrolls ? lbl2_->heightForWidth(width) : body.height());
 }
 
-bool frmReport::CloseRequested() {
+bool frmReport::HandleCloseRequest() {
     return !navigation_.ReportClosed();
 }
 

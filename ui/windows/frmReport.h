@@ -10,20 +10,20 @@ namespace vorlund {
 
 class GameNavigation;
 
-/// The report screen, the one on which every result and every turn is shown. What closing it means is the
-/// turn's affair. A body longer than its place scrolls.
+/// The report screen, which shows the result of an action or of a turn. There is one, hidden and shown again.
+/// A close request asks GameNavigation::ReportClosed whether the window may close. A long body scrolls.
 class frmReport final : public Screen {
     Q_OBJECT
 
 public:
     explicit frmReport(GameNavigation& navigation);
 
-    /// Shows `report` in front of `owner`, or of no window in particular, with the player's `picture` if
-    /// there is one.
-    void ShowIt(const Report& report, const Picture* picture, QWidget* owner);
+    /// Presents `report` with `picture`, the player's marker, if not null, and keeps the window in front of
+    /// `owner`, if not null.
+    void ShowReport(const Report& report, const Picture* picture, QWidget* owner);
 
 protected:
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -5,6 +5,9 @@
 #include "ui/parts/message_box.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int MaxGameNameLength = 12;
@@ -12,15 +15,14 @@ constexpr int MaxGameNameLength = 12;
 }  // namespace
 
 frmSave::frmSave(DialogHost& host, const GameState& game, const SavedGamesFolder& saves)
-    : CommandDialog(host, QStringLiteral("frmSave"), QStringLiteral("Vorlund - Save Game"), QSize(300, 96)),
+    : CommandDialog(host, u"frmSave"_s, u"Vorlund - Save Game"_s, QSize(300, 96)),
       game_(game),
       saves_(saves) {
-    TextLabel* lbl1 = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(20, 14, 260, 20),
-                              "Enter a name for the saved game:");
-    txtSave_ = AddField(lbl1, QStringLiteral("txtSave"), QPoint(20, 50), MaxGameNameLength, 160);
-    CommandLabel* lblGo =
-        AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(206, 50, 60, 19));
-    lblGo->SetKey(QStringLiteral("Enter"));
+    TextLabel* lbl1 =
+        AddText(u"lbl1"_s, Face::Heading, QRect(20, 14, 260, 20), "Enter a name for the saved game:");
+    txtSave_ = AddField(lbl1, u"txtSave"_s, QPoint(20, 50), MaxGameNameLength, 160);
+    CommandLabel* lblGo = AddCommand(u"lblGo"_s, u"Enter"_s, QRect(206, 50, 60, 19));
+    lblGo->SetKey(u"Enter"_s);
     connect(lblGo, &CommandLabel::clicked, this, &frmSave::Entr);
     connect(txtSave_, &Field::Entered, this, &frmSave::Entr);
     txtSave_->setFocus();

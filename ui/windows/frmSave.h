@@ -7,7 +7,7 @@
 
 namespace vorlund {
 
-/// The save screen.
+/// The save screen: asks for a name and saves the game under it.
 class frmSave final : public CommandDialog {
     Q_OBJECT
 

@@ -9,24 +9,23 @@
 
 namespace vorlund {
 
+using namespace Qt::StringLiterals;
+
 frmSelect::frmSelect(BoardWindow& board, GameState& game, Random& random, GameNavigation& navigation)
-    : Screen(&board, QStringLiteral("frmSelect"), QStringLiteral("Vorlund - Territory Select"),
-             QSize(360, 140), {}, Qt::Dialog),
+    : Screen(&board, u"frmSelect"_s, u"Vorlund - Territory Select"_s, QSize(360, 140), {}, Qt::Dialog),
       board_(board),
       navigation_(navigation),
       selection_(game, random) {
-    lbl1_ = AddText(QStringLiteral("lbl1"), Face::Heading, QRect(16, 12, 328, 58));
+    lbl1_ = AddText(u"lbl1"_s, Face::Heading, QRect(16, 12, 328, 58));
     lbl1_->setAlignment(Qt::AlignCenter);
-    TextLabel* lbl2 =
-        AddText(QStringLiteral("lbl2"), Face::Caption, QRect(56, 92, 136, 19), "Territory number (1-42):");
-    txtNum_ = AddField(lbl2, QStringLiteral("txtNum"), QPoint(196, 92), 2);
-    CommandLabel* lblGo =
-        AddCommand(QStringLiteral("lblGo"), QStringLiteral("Enter"), QRect(244, 92, 52, 19));
-    lblGo->SetKey(QStringLiteral("Enter"));
+    TextLabel* lbl2 = AddText(u"lbl2"_s, Face::Caption, QRect(56, 92, 136, 19), "Territory number (1-42):");
+    txtNum_ = AddField(lbl2, u"txtNum"_s, QPoint(196, 92), 2);
+    CommandLabel* lblGo = AddCommand(u"lblGo"_s, u"Enter"_s, QRect(244, 92, 52, 19));
+    lblGo->SetKey(u"Enter"_s);
     connect(lblGo, &CommandLabel::clicked, this, &frmSelect::Entr);
     connect(txtNum_, &Field::Entered, this, &frmSelect::Entr);
-    txtNum_->TakeTerritories();
-    board.TypeInto(*txtNum_);
+    txtNum_->AcceptTerritoryClicks();
+    board.AddTerritoryField(*txtNum_);
     txtNum_->setFocus();
     lbl1_->Show(selection_.Open());
 }
@@ -41,11 +40,11 @@ void frmSelect::Entr() {
     }
     board_.RefreshMap();
     if (step.What == Selection::Step::Kind::Ended) {
-        navigation_.SelectionEnded();
+        navigation_.BeginFirstTurn();
     }
 }
 
-bool frmSelect::CloseRequested() {
+bool frmSelect::HandleCloseRequest() {
     if (Ask(this,
             "Closing this window will terminate your new game.\rPress 'yes' to exit or 'no' to return.")) {
         navigation_.End();

@@ -9,7 +9,7 @@ namespace vorlund {
 class BoardWindow;
 class GameNavigation;
 
-/// The selection screen of a new game's opening round: each human player types the number of a territory.
+/// The territory selection of a new game: each human player enters the number of a territory.
 class frmSelect final : public Screen {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ public:
     frmSelect(BoardWindow& board, GameState& game, Random& random, GameNavigation& navigation);
 
 protected:
-    bool CloseRequested() override;
+    bool HandleCloseRequest() override;
 
 private:
     void Entr();

@@ -5,19 +5,21 @@
 
 namespace vorlund {
 
+using namespace Qt::StringLiterals;
+
 frmSell::frmSell(DialogHost& host, GameState& game)
     : TradeDialog(host,
-                  {QStringLiteral("frmSell"), QStringLiteral("Vorlund - Sell"), QSize(348, 135), 76, 130, 246,
-                   "Territory #:", SellingPrices, QStringLiteral("Sell")},
+                  {u"frmSell"_s, u"Vorlund - Sell"_s, QSize(348, 135), 76, 130, 246,
+                   "Territory #:", SellingPrices, u"Sell"_s},
                   "You may sell oil or Troops/Tanks in any of your territories."),
       game_(game) {}
 
 void frmSell::Trade() {
-    std::visit([this](const auto& outcome) { Settle(outcome); }, Sell(game_, Entries()));
+    std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, Sell(game_, Entries()));
 }
 
-void frmSell::Settle(const NoSurvivor&) {
-    host().NobodyIsLeft();
+void frmSell::ShowOutcome(const NoSurvivor&) {
+    Host().EndWithoutWinner();
 }
 
 }  // namespace vorlund

@@ -16,8 +16,8 @@ public:
 private:
     void Trade() override;
 
-    using CommandDialog::Settle;
-    void Settle(const NoSurvivor& end);
+    using CommandDialog::ShowOutcome;
+    void ShowOutcome(const NoSurvivor& end);
 
     GameState& game_;
 };

@@ -5,6 +5,9 @@
 #include "ui/parts/keys.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize Size(320, 340);
@@ -13,40 +16,38 @@ constexpr int LineHeight = 22;
 }  // namespace
 
 frmStatus::frmStatus(DialogHost& host, const GameState& game, const Picture& marker)
-    : CommandDialog(host, QStringLiteral("frmStatus"), {}, Size) {
+    : CommandDialog(host, u"frmStatus"_s, {}, Size) {
     const StatusLines lines = DescribeStatus(game);
     SetTitle(lines.Title);
     struct Row {
         const char* Caption = nullptr;
-        const char* Control = nullptr;
+        QString Control;
         const std::string& Value;
         int Lines = 1;
     };
-    const std::array<Row, 12> rows{{{"Name:", "lblName", lines.Name},
-                                    {"Money:", "lblMoney", lines.Money},
-                                    {"Oil Barrels:", "lblOil", lines.Oil},
-                                    {"Total Troops:", "lblTroops", lines.Troops},
-                                    {"Total Tanks:", "lblTanks", lines.Tanks},
-                                    {"Total Factories:", "lblFact", lines.Factories},
-                                    {"Turns in Debt:", "lblDebt", lines.Debt},
-                                    {"Economy Upgrade:", "lblEco", lines.Economy},
-                                    {"Warfare Upgrade:", "lblWar", lines.Warfare},
-                                    {"Nuclear Upgrade:", "lblNuc", lines.Nuclear, 2},
-                                    {"Attacks/Moves left:", "lblAM", lines.AttacksMoves},
-                                    {"Current Upkeep/Turn:", "lblUpkeep", lines.Upkeep}}};
+    const std::array<Row, 12> rows{{{"Name:", u"lblName"_s, lines.Name},
+                                    {"Money:", u"lblMoney"_s, lines.Money},
+                                    {"Oil Barrels:", u"lblOil"_s, lines.Oil},
+                                    {"Total Troops:", u"lblTroops"_s, lines.Troops},
+                                    {"Total Tanks:", u"lblTanks"_s, lines.Tanks},
+                                    {"Total Factories:", u"lblFact"_s, lines.Factories},
+                                    {"Turns in Debt:", u"lblDebt"_s, lines.Debt},
+                                    {"Economy Upgrade:", u"lblEco"_s, lines.Economy},
+                                    {"Warfare Upgrade:", u"lblWar"_s, lines.Warfare},
+                                    {"Nuclear Upgrade:", u"lblNuc"_s, lines.Nuclear, 2},
+                                    {"Attacks/Moves left:", u"lblAM"_s, lines.AttacksMoves},
+                                    {"Current Upkeep/Turn:", u"lblUpkeep"_s, lines.Upkeep}}};
     int y = 14;
     for (const Row& row : rows) {
         const int height = 8 + 14 * row.Lines;
-        AddText(QString::fromLatin1(row.Control) + QStringLiteral("Caption"), Face::Caption,
-                QRect(44, y, 122, LineHeight), row.Caption);
-        AddText(QString::fromLatin1(row.Control), Face::Caption, QRect(172, y, 136, height), row.Value);
+        AddText(row.Control + u"Caption"_s, Face::Caption, QRect(44, y, 122, LineHeight), row.Caption);
+        AddText(row.Control, Face::Caption, QRect(172, y, 136, height), row.Value);
         y += row.Lines * LineHeight - (row.Lines - 1) * 8;
     }
-    auto* img1 = new PictureLabel(this, QStringLiteral("img1"), QRect(22, 20, 10, 10));
+    auto* img1 = new PictureLabel(this, u"img1"_s, QRect(22, 20, 10, 10));
     img1->Show(&marker);
-    CommandLabel* lblCont =
-        AddCommand(QStringLiteral("lblCont"), QStringLiteral("Close"), QRect(130, 308, 60, 19));
-    lblCont->SetKey(QStringLiteral("Enter"));
+    CommandLabel* lblCont = AddCommand(u"lblCont"_s, u"Close"_s, QRect(130, 308, 60, 19));
+    lblCont->SetKey(u"Enter"_s);
     connect(lblCont, &CommandLabel::clicked, this, &frmStatus::close);
 }
 

@@ -6,12 +6,12 @@
 
 namespace vorlund {
 
-/// The status screen: how the current player stands.
+/// The status screen of the current player.
 class frmStatus final : public CommandDialog {
     Q_OBJECT
 
 public:
-    /// `marker` is the current player's.
+    /// `marker` is the current player's and must outlive the window.
     frmStatus(DialogHost& host, const GameState& game, const Picture& marker);
 
 protected:

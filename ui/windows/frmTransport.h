@@ -6,7 +6,7 @@
 
 namespace vorlund {
 
-/// The transport dialog. It stays open after a move, so that the turn's second move can follow at once.
+/// The transport dialog. It stays open after a move, for the turn's second one.
 class frmTransport final : public CommandDialog {
     Q_OBJECT
 
@@ -16,8 +16,8 @@ public:
 private:
     void Move();
 
-    using CommandDialog::Settle;
-    void Settle(const Moved& moved);
+    using CommandDialog::ShowOutcome;
+    void ShowOutcome(const Moved& moved);
 
     GameState& game_;
     TextLabel* lblA_;

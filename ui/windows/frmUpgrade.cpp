@@ -6,64 +6,65 @@
 #include "ui/windows/dialog_host.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Width = 258;
 
-QString Numbered(const char* stem, int number) {
-    return QString::fromLatin1(stem) + QString::number(number);
+QString Numbered(const QString& stem, int number) {
+    return stem + QString::number(number);
 }
 
 }  // namespace
 
 frmUpgrade::frmUpgrade(DialogHost& host, GameState& game)
-    : CommandDialog(host, QStringLiteral("frmUpgrade"), QStringLiteral("Vorlund - Upgrade"),
-                    QSize(Width, 277)),
-      game_(game) {
-    lblTop_ = AddText(QStringLiteral("lblTop"), Face::Status, QRect(8, 4, Width - 16, 34));
-    AddLine(QStringLiteral("Line1"), QPoint(12, 41), Width - 24);
-    AddTrack(Track::Economy, "Economy", 1, 46);
-    AddLine(QStringLiteral("Line2"), QPoint(12, 83), Width - 24);
-    AddTrack(Track::Warfare, "Warfare", 2, 88);
-    AddLine(QStringLiteral("Line3"), QPoint(12, 125), Width - 24);
-    AddTrack(Track::Nuclear, "Nuclear", 3, 130);
-    AddLine(QStringLiteral("Line6"), QPoint(12, 167), Width - 24);
-    AddConstruction(1, 177, "Label7", "txtC1", QStringLiteral("Build Factory"), FactoryPrice, &Fact);
-    AddConstruction(2, 227, "Label1", "txtC2", QStringLiteral("Build Defense"), DefensePrice, &Def);
+    : CommandDialog(host, u"frmUpgrade"_s, u"Vorlund - Upgrade"_s, QSize(Width, 277)), game_(game) {
+    lblTop_ = AddText(u"lblTop"_s, Face::Status, QRect(8, 4, Width - 16, 34));
+    AddLine(u"Line1"_s, QPoint(12, 41), Width - 24);
+    AddTrack(Track::Economy, u"Economy"_s, 1, 46);
+    AddLine(u"Line2"_s, QPoint(12, 83), Width - 24);
+    AddTrack(Track::Warfare, u"Warfare"_s, 2, 88);
+    AddLine(u"Line3"_s, QPoint(12, 125), Width - 24);
+    AddTrack(Track::Nuclear, u"Nuclear"_s, 3, 130);
+    AddLine(u"Line6"_s, QPoint(12, 167), Width - 24);
+    AddConstruction(1, 177, u"Label7"_s, u"txtC1"_s, u"Build Factory"_s, FactoryPrice, &Fact);
+    AddConstruction(2, 227, u"Label1"_s, u"txtC2"_s, u"Build Defense"_s, DefensePrice, &Def);
     fields_[0]->setFocus();
     Update({});
 }
 
-void frmUpgrade::AddTrack(Track track, const char* name, int number, int y) {
-    TrackRow row{track, AddText(Numbered("lbl", number), Face::Caption, QRect(12, y, 144, 32)),
-                 AddCommand(Numbered("lblGo", number), QStringLiteral("Upgrade"), QRect(164, y + 6, 78, 19))};
-    row.Go->setAccessibleDescription(QString::fromLatin1(name));
-    row.Go->SetKey(QStringLiteral("Alt+%1").arg(number));
+void frmUpgrade::AddTrack(Track track, const QString& name, int number, int y) {
+    TrackRow row{track, AddText(Numbered(u"lbl"_s, number), Face::Caption, QRect(12, y, 144, 32)),
+                 AddCommand(Numbered(u"lblGo"_s, number), u"Upgrade"_s, QRect(164, y + 6, 78, 19))};
+    row.Go->setAccessibleDescription(name);
+    row.Go->SetKey(u"Alt+%1"_s.arg(number));
     row.Go->setShortcut(QKeySequence(row.Go->Key()));
     connect(row.Go, &CommandLabel::clicked, this, [this, track] {
-        std::visit([this](const auto& outcome) { Settle(outcome); }, RaiseLevel(game_, track));
+        std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, RaiseLevel(game_, track));
     });
     tracks_[static_cast<std::size_t>(number - 1)] = row;
 }
 
-void frmUpgrade::AddConstruction(int number, int y, const char* captionName, const char* fieldName,
+void frmUpgrade::AddConstruction(int number, int y, const QString& captionName, const QString& fieldName,
                                  const QString& command, int price,
                                  std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view)) {
-    TextLabel* caption =
-        AddText(QString::fromLatin1(captionName), Face::Caption, QRect(12, y, 62, 19), "Territory #:");
-    Field* field = AddField(caption, QString::fromLatin1(fieldName), QPoint(76, y), 2);
-    CommandLabel* go = AddCommand(Numbered("lblGo", number + 3), command, QRect(124, y, 118, 19));
-    AddText(Numbered("lblP", number), Face::Caption, QRect(124, y + 22, 118, 16), "$" + std::to_string(price))
+    TextLabel* caption = AddText(captionName, Face::Caption, QRect(12, y, 62, 19), "Territory #:");
+    Field* field = AddField(caption, fieldName, QPoint(76, y), 2);
+    CommandLabel* go = AddCommand(Numbered(u"lblGo"_s, number + 3), command, QRect(124, y, 118, 19));
+    AddText(Numbered(u"lblP"_s, number), Face::Caption, QRect(124, y + 22, 118, 16),
+            "$" + std::to_string(price))
         ->setAlignment(Qt::AlignCenter);
-    // The two captions are alike; who hears the screen is told what is built.
+    // Both fields have the same caption; the description tells them apart for screen readers.
     field->setAccessibleDescription(command);
-    go->SetKey(QStringLiteral("Enter"));
+    go->SetKey(u"Enter"_s);
     const auto run = [this, field, build] {
-        std::visit([this](const auto& outcome) { Settle(outcome); }, build(game_, field->Typed()));
+        std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, build(game_, field->Typed()));
     };
     connect(go, &CommandLabel::clicked, this, run);
     connect(field, &Field::Entered, this, run);
-    TakeTerritories({field});
+    AcceptTerritoryClicks({field});
     fields_[static_cast<std::size_t>(number - 1)] = field;
 }
 
@@ -74,13 +75,13 @@ void frmUpgrade::Update(const std::string& message) {
     lblTop_->Show(message + MoneyLine(game_));
     for (const TrackRow& row : tracks_) {
         row.Status->Show(StatusOf(game_, row.Which));
-        Offer(*row.Go, WhyNoUpgrade(game_, row.Which));
+        EnableUnless(*row.Go, WhyNoUpgrade(game_, row.Which));
     }
 }
 
-void frmUpgrade::Settle(const Purchase& purchase) {
+void frmUpgrade::ShowOutcome(const Purchase& purchase) {
     Update(purchase.Message);
-    host().Board().RefreshMap();
+    Host().Board().RefreshMap();
 }
 
 }  // namespace vorlund

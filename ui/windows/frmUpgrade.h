@@ -23,17 +23,17 @@ private:
         CommandLabel* Go;
     };
 
-    void AddTrack(Track track, const char* name, int number, int y);
-    void AddConstruction(int number, int y, const char* captionName, const char* fieldName,
+    void AddTrack(Track track, const QString& name, int number, int y);
+    void AddConstruction(int number, int y, const QString& captionName, const QString& fieldName,
                          const QString& command, int price,
                          std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view));
 
-    /// Brings the dialog up to the game; `message` is the last result, in front of the money line.
+    /// Shows the current state of the game; `message`, the last result, precedes the money line.
     void Update(const std::string& message);
 
-    using CommandDialog::Settle;
-    void Settle(const Nothing&) {}
-    void Settle(const Purchase& purchase);
+    using CommandDialog::ShowOutcome;
+    void ShowOutcome(const Nothing&) {}
+    void ShowOutcome(const Purchase& purchase);
 
     GameState& game_;
     TextLabel* lblTop_;

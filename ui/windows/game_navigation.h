@@ -5,24 +5,24 @@
 
 namespace vorlund {
 
-/// What the player's acts on the board, the selection screen and the report lead to.
+/// The transitions that the board, the territory selection and the report can trigger.
 class GameNavigation {
 public:
     virtual ~GameNavigation() = default;
 
-    /// The board of a new game is open: its players select their territories.
+    /// Opens the territory selection of a new game.
     virtual void SelectTerritories() = 0;
 
-    /// Everybody has a territory: the first turn begins.
-    virtual void SelectionEnded() = 0;
+    /// Closes the selection, when every player has a territory, and begins the first turn.
+    virtual void BeginFirstTurn() = 0;
 
-    /// An available command has been given: End Turn, or one whose dialog opens or comes to the front.
+    /// Runs an available command: ends the turn, or opens the command's dialog or raises it.
     virtual void RunCommand(Command command) = 0;
 
-    /// The player is done with the report. True when its window must stay, because it shows a new report now.
+    /// Decides what closing the report means. True if the window must stay open, with the next report in it.
     virtual bool ReportClosed() = 0;
 
-    /// Ends the program: every window closes without asking anything.
+    /// Ends the program and closes every window outright.
     virtual void End() = 0;
 };
 

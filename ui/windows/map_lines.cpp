@@ -5,14 +5,17 @@
 #include <charconv>
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Whole numbers between blanks and line ends.
-class Numbers {
+/// Reads whole numbers separated by blanks and line ends.
+class NumberReader {
 public:
-    explicit Numbers(const QByteArray& text) : next_(text.begin()), end_(text.end()) {}
+    explicit NumberReader(const QByteArray& text) : next_(text.begin()), end_(text.end()) {}
 
-    /// The next number; 0 from the first fault on.
+    /// The next number; 0 at the end and after anything else than a number.
     int Next() {
         while (next_ != end_ && (*next_ == ' ' || *next_ == '\n')) {
             ++next_;
@@ -32,12 +35,12 @@ private:
 
 std::vector<MapLine> ReadMapLines(const QString& name, int territories) {
     std::vector<MapLine> lines;
-    QFile file(QStringLiteral(":/map/") + name);
+    QFile file(u":/map/"_s + name);
     if (!file.open(QIODevice::ReadOnly)) {
         return lines;
     }
     const QByteArray text = file.readAll();
-    Numbers numbers(text);
+    NumberReader numbers(text);
     while (true) {
         MapLine line;
         for (int i = 0; i < territories; ++i) {

@@ -7,14 +7,14 @@
 
 namespace vorlund {
 
-/// A ring or a line of the board's map, in pixels of the board.
+/// An outline or a border of the map, in pixels of the layout.
 struct MapLine {
-    std::vector<int> Territories;  ///< the numbers, from 1, of those that it bounds
+    std::vector<int> Territories;  ///< numbers, from 1, of the territories that it bounds
     QPolygonF Points;
 };
 
-/// Reads the map's data called `name`: a line each of `territories` numbers, how many points, and the points
-/// in tenths of a pixel. What cannot be read ends the list.
+/// Reads the map resource called `name`. Each of its lines holds `territories` territory numbers, the count
+/// of points, and the points in tenths of a pixel. Reading stops at the first malformed number.
 std::vector<MapLine> ReadMapLines(const QString& name, int territories);
 
 }  // namespace vorlund

@@ -8,15 +8,15 @@
 
 namespace vorlund {
 
-/// How the land of one owner is coloured.
+/// The colours of one owner's land.
 struct OwnerColours {
     QRgb Land;
-    QRgb Edge;  ///< of the land along a border with another owner
+    QRgb Edge;  ///< along a border with another owner
 };
 
-/// The players' by their index, then nobody's. They come from the colours of the players' markers, light and
-/// dark enough for any two of them to differ to every kind of eye; the map's generator and a test measure
-/// that.
+/// By player index, then nobody's. Derived from the colours of the markers, with lightness chosen so that any
+/// two can be told apart with each kind of colour blindness; the map's generator and a test measure the
+/// difference.
 inline constexpr std::array<OwnerColours, MaxPlayers + 1> OwnersColours{{
     {0x991a24, 0xe4323a},
     {0xd97031, 0xffa055},

@@ -10,22 +10,25 @@
 #include "ui/windows/owner_colours.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// Of a front, a border between two owners: how far from it, in pixels of the board, its line ends and the
-// coloured edge of each side's land begins to fade and ends.
+// A front is a border between two owners. Distances from it, in pixels of the layout, at which its dark line
+// ends, and at which the lighter edge of the land begins to fade and ends.
 constexpr qreal LineEnd = 1.1;
 constexpr qreal EdgeFades = 2.2;
 constexpr qreal EdgeEnd = 4.5;
 constexpr qreal EdgeStrength = 0.8;
 constexpr QRgb LineColour = qRgb(10, 14, 20);
-constexpr QRgb UnderTheSea = qRgb(20, 30, 40);
-constexpr int Far = 255;  // a distance of EdgeEnd or more
+constexpr QRgb SeaColour = qRgb(20, 30, 40);
+constexpr int Far = 255;  ///< stands for a distance of EdgeEnd or more
 
-constexpr int ManyTerritories = 6;  // as many are painted no quicker one by one than all at once
+constexpr int FullRepaintThreshold = 6;  ///< composing that many territories one by one takes longer than all
 
-/// `share` of `one`, the rest of `other`.
-QRgb Mixed(QRgb one, QRgb other, qreal share) {
+/// Blends two colours: `share` of `one`, the rest of `other`.
+QRgb Blend(QRgb one, QRgb other, qreal share) {
     const auto part = [&](int (*of)(QRgb)) {
         return static_cast<int>(std::lround(of(one) * share + of(other) * (1 - share)));
     };
@@ -40,8 +43,8 @@ qreal SquaredDistance(QPointF place, QPointF from, QPointF to) {
     return QPointF::dotProduct(away, away);
 }
 
-/// What a border within `rect` reaches.
-QRect Around(const QRectF& rect) {
+/// `rect` grown by the reach of a front's edge.
+QRect GrownByEdge(const QRectF& rect) {
     return rect.adjusted(-EdgeEnd, -EdgeEnd, EdgeEnd, EdgeEnd).toAlignedRect();
 }
 
@@ -49,24 +52,24 @@ QRect Around(const QRectF& rect) {
 
 OwnerMap::OwnerMap(const Picture& picture, const TerritoryMap& territories)
     : picture_(picture), territories_(territories) {
-    for (const MapLine& line : ReadMapLines(QStringLiteral("borders.txt"), 2)) {
+    for (const MapLine& line : ReadMapLines(u"borders.txt"_s, 2)) {
         Border border;
         std::transform(line.Territories.begin(), line.Territories.end(), border.Sides.begin(),
                        [](int number) { return static_cast<std::size_t>(number - 1); });
         border.Line = line.Points;
-        border.Box = Around(line.Points.boundingRect());
+        border.Box = GrownByEdge(line.Points.boundingRect());
         borders_.push_back(std::move(border));
     }
     owners_.fill(Nobody);
     QRect land;
     for (std::size_t t = 0; t < owners_.size(); ++t) {
-        land |= TouchedBy(t);
+        land |= BoundsOf(t);
     }
     size_ = QSize(land.right() + 1, land.bottom() + 1);
 }
 
-QRect OwnerMap::TouchedBy(std::size_t territory) const {
-    return Around(territories_.Outline(static_cast<int>(territory)).controlPointRect());
+QRect OwnerMap::BoundsOf(std::size_t territory) const {
+    return GrownByEdge(territories_.Outline(static_cast<int>(territory)).controlPointRect());
 }
 
 QRegion OwnerMap::Show(const Owners& owners) {
@@ -74,7 +77,7 @@ QRegion OwnerMap::Show(const Owners& owners) {
     for (std::size_t t = 0; t < owners.size(); ++t) {
         if (owners[t] != owners_[t]) {
             stale_.set(t);
-            changed |= TouchedBy(t);
+            changed |= BoundsOf(t);
         }
     }
     owners_ = owners;
@@ -84,14 +87,14 @@ QRegion OwnerMap::Show(const Owners& owners) {
 void OwnerMap::Paint(QPainter& painter) {
     const qreal ratio = painter.deviceTransform().m11();
     if (ratio_ != ratio) {
-        Begin(ratio);
+        SetScale(ratio);
         Compose(QRect(QPoint(), size_));
-    } else if (stale_.count() >= ManyTerritories) {
+    } else if (stale_.count() >= FullRepaintThreshold) {
         Compose(QRect(QPoint(), size_));
     } else {
         for (std::size_t t = 0; t < owners_.size(); ++t) {
             if (stale_.test(t)) {
-                Compose(TouchedBy(t));
+                Compose(BoundsOf(t));
             }
         }
     }
@@ -103,34 +106,35 @@ QRect OwnerMap::Pixels(const QRect& part) const {
     return QRectF(QPointF(part.topLeft()) * ratio_, QSizeF(part.size()) * ratio_).toAlignedRect();
 }
 
-void OwnerMap::Begin(qreal ratio) {
+void OwnerMap::SetScale(qreal ratio) {
     ratio_ = ratio;
     const QSize size = Pixels(QRect(QPoint(), size_)).size();
     composed_ = QImage(size, QImage::Format_RGB32);
     composed_.setDevicePixelRatio(ratio);
-    numbers_ = QImage(size, QImage::Format_Grayscale8);
-    numbers_.fill(0);
-    QPainter painter(&numbers_);
+    territoryNumbers_ = QImage(size, QImage::Format_Grayscale8);
+    territoryNumbers_.fill(0);
+    QPainter painter(&territoryNumbers_);
     painter.scale(ratio, ratio);
     for (int t = 0; t < NumTerritories; ++t) {
         const int number = t + 1;
         painter.fillPath(territories_.Outline(t), QColor(number, number, number));
     }
-    std::for_each(borders_.begin(), borders_.end(), [this](Border& border) { Measure(border); });
-    MixColours();
+    std::for_each(borders_.begin(), borders_.end(), [this](Border& border) { MeasureDistances(border); });
+    FillColourTable();
 }
 
-void OwnerMap::Measure(Border& border) const {
+void OwnerMap::MeasureDistances(Border& border) const {
     const QRect all = Pixels(border.Box).intersected(composed_.rect());
-    std::vector<qreal> squares(static_cast<std::size_t>(all.width() * all.height()), EdgeEnd * EdgeEnd);
+    std::vector<qreal> squaredDistances(static_cast<std::size_t>(all.width() * all.height()),
+                                        EdgeEnd * EdgeEnd);
     const auto square = [&](int x, int y) -> qreal& {
-        return squares[static_cast<std::size_t>((y - all.top()) * all.width() + x - all.left())];
+        return squaredDistances[static_cast<std::size_t>((y - all.top()) * all.width() + x - all.left())];
     };
     const auto onBoard = [&](int x, int y) { return QPointF(x + 0.5, y + 0.5) / ratio_; };
     for (qsizetype i = 1; i < border.Line.size(); ++i) {
         const QPointF from = border.Line[i - 1];
         const QPointF to = border.Line[i];
-        const QRect reached = Pixels(Around(QRectF(from, to).normalized())).intersected(all);
+        const QRect reached = Pixels(GrownByEdge(QRectF(from, to).normalized())).intersected(all);
         for (int y = reached.top(); y <= reached.bottom(); ++y) {
             for (int x = reached.left(); x <= reached.right(); ++x) {
                 square(x, y) = std::min(square(x, y), SquaredDistance(onBoard(x, y), from, to));
@@ -150,36 +154,36 @@ void OwnerMap::Measure(Border& border) const {
     border.Pixels.shrink_to_fit();
 }
 
-void OwnerMap::MixColours() {
+void OwnerMap::FillColourTable() {
     for (std::size_t owner = 0; owner < colours_.size(); ++owner) {
         for (std::size_t distance = 0; distance <= Far; ++distance) {
             const qreal away = static_cast<qreal>(distance) * EdgeEnd / Far;
             const qreal edge = std::clamp((EdgeEnd - away) / (EdgeEnd - EdgeFades), 0.0, 1.0);
             const qreal line = std::clamp((LineEnd - away) * ratio_ + 0.5, 0.0, 1.0);
             const QRgb land =
-                Mixed(OwnersColours[owner].Edge, OwnersColours[owner].Land, edge * EdgeStrength);
-            colours_[owner][distance] = Mixed(LineColour, land, line);
+                Blend(OwnersColours[owner].Edge, OwnersColours[owner].Land, edge * EdgeStrength);
+            colours_[owner][distance] = Blend(LineColour, land, line);
         }
     }
 }
 
 void OwnerMap::Compose(const QRect& part) {
     const QRect pixels = Pixels(part).intersected(composed_.rect());
-    FillLand(pixels, FromFronts(part, pixels));
-    // The same pixels, to be counted as such
+    FillLand(pixels, DistancesFromFronts(part, pixels));
+    // The same memory without a device pixel ratio, so that coordinates are device pixels
     QImage canvas(composed_.bits(), composed_.width(), composed_.height(), composed_.bytesPerLine(),
                   composed_.format());
     QPainter(&canvas).drawPixmap(pixels, picture_.At(ratio_ / Zoom::OfApplication().Factor()), pixels);
 }
 
-/// The distance of every pixel of the part, row by row, from the nearest front.
-std::vector<std::uint8_t> OwnerMap::FromFronts(const QRect& part, const QRect& pixels) const {
+/// For every pixel of `pixels`, row by row, its distance from the nearest front.
+std::vector<std::uint8_t> OwnerMap::DistancesFromFronts(const QRect& part, const QRect& pixels) const {
     std::vector<std::uint8_t> distances(static_cast<std::size_t>(pixels.width() * pixels.height()), Far);
     for (const Border& border : borders_) {
         if (owners_[border.Sides[0]] == owners_[border.Sides[1]] || !border.Box.intersects(part)) {
             continue;
         }
-        for (const Beside& beside : border.Pixels) {
+        for (const BorderPixel& beside : border.Pixels) {
             if (pixels.contains(beside.X, beside.Y)) {
                 const int place = (beside.Y - pixels.top()) * pixels.width() + beside.X - pixels.left();
                 std::uint8_t& distance = distances[static_cast<std::size_t>(place)];
@@ -194,10 +198,10 @@ void OwnerMap::FillLand(const QRect& pixels, const std::vector<std::uint8_t>& di
     std::vector<QRgb> row(static_cast<std::size_t>(pixels.width()));
     auto distance = distances.begin();
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-        const uchar* number = numbers_.constScanLine(y) + pixels.left();
+        const uchar* number = territoryNumbers_.constScanLine(y) + pixels.left();
         for (QRgb& pixel : row) {
             if (*number == 0) {
-                pixel = UnderTheSea;
+                pixel = SeaColour;
             } else {
                 const auto owner = static_cast<std::size_t>(owners_[*number - 1U]);
                 pixel = colours_[owner][*distance];

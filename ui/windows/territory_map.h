@@ -10,16 +10,16 @@
 
 namespace vorlund {
 
-/// The shapes of the territories on the board's map, in pixels of the board.
+/// The outlines of the territories, in pixels of the layout, and the hit test on them.
 class TerritoryMap {
 public:
-    /// Reads the outlines that the map was drawn from.
+    /// Reads the outlines, from which the map's picture was drawn too.
     TerritoryMap();
 
-    /// The index of the territory whose land lies under `place`; nothing for the sea.
+    /// The index of the territory at `place`; nothing at sea.
     std::optional<int> At(QPointF place) const;
 
-    /// The land of territory index `territory`: closed rings of its coasts, islands and borders.
+    /// The land of territory index `territory` as closed rings, one for each island.
     const QPainterPath& Outline(int territory) const {
         return outlines_[static_cast<std::size_t>(territory)];
     }

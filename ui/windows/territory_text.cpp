@@ -6,33 +6,34 @@
 #include "ui/parts/look.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int NeighboursPerLine = 3;
 
 QString NumberAndName(const GameState& game, int t) {
-    return QStringLiteral("%1 %2").arg(t + 1).arg(Displayed(game.TerritoryAt(t).Name));
+    return u"%1 %2"_s.arg(t + 1).arg(Displayed(game.TerritoryAt(t).Name));
 }
 
 QString Counted(int number, const QString& one, const QString& many) {
-    return QStringLiteral("%1 %2").arg(number).arg(number == 1 ? one : many);
+    return u"%1 %2"_s.arg(number).arg(number == 1 ? one : many);
 }
 
 QStringList Holdings(const GameState& game, const Territory& territory) {
     if (!territory.Occupied) {
-        return {QStringLiteral("held by nobody")};
+        return {u"held by nobody"_s};
     }
     QStringList holdings{
-        QStringLiteral("%1 (Player %2)")
-            .arg(Displayed(game.PlayerAt(territory.Owner).Name))
-            .arg(territory.Owner + 1),
-        Counted(territory.Stationed.Troops, QStringLiteral("troop"), QStringLiteral("troops")),
-        Counted(territory.Stationed.Tanks, QStringLiteral("tank"), QStringLiteral("tanks"))};
+        u"%1 (Player %2)"_s.arg(Displayed(game.PlayerAt(territory.Owner).Name)).arg(territory.Owner + 1),
+        Counted(territory.Stationed.Troops, u"troop"_s, u"troops"_s),
+        Counted(territory.Stationed.Tanks, u"tank"_s, u"tanks"_s)};
     if (territory.HasFactory) {
-        holdings << QStringLiteral("factory");
+        holdings << u"factory"_s;
     }
     if (territory.HasDefense) {
-        holdings << QStringLiteral("defense");
+        holdings << u"defense"_s;
     }
     return holdings;
 }
@@ -40,8 +41,7 @@ QStringList Holdings(const GameState& game, const Territory& territory) {
 }  // namespace
 
 QString ShortDescription(const GameState& game, int t) {
-    return NumberAndName(game, t) + QStringLiteral(": ") +
-           Holdings(game, game.TerritoryAt(t)).join(QStringLiteral(", "));
+    return NumberAndName(game, t) + u": "_s + Holdings(game, game.TerritoryAt(t)).join(u", "_s);
 }
 
 QString FullDescription(const GameState& game, int t) {
@@ -50,15 +50,14 @@ QString FullDescription(const GameState& game, int t) {
     int told = 0;
     for (const std::int16_t n : territory.Neighbours) {
         if (n != NoNeighbour) {
-            const auto* between = told == 0 ? "" : told % NeighboursPerLine == 0 ? ",\n" : ", ";
-            neighbours += QLatin1String(between) + NumberAndName(game, n);
+            const QString separator = told == 0 ? u""_s : told % NeighboursPerLine == 0 ? u",\n"_s : u", "_s;
+            neighbours += separator + NumberAndName(game, n);
             ++told;
         }
     }
-    return NumberAndName(game, t) + u'\n' + Holdings(game, territory).join(QStringLiteral(", ")) +
-           QStringLiteral("\nValue %1").arg(territory.Value) +
-           (territory.HasOil ? QStringLiteral(", oil field") : QString()) + QStringLiteral("\nNeighbours: ") +
-           neighbours;
+    return NumberAndName(game, t) + u'\n' + Holdings(game, territory).join(u", "_s) +
+           u"\nValue %1"_s.arg(territory.Value) + (territory.HasOil ? u", oil field"_s : QString()) +
+           u"\nNeighbours: "_s + neighbours;
 }
 
 }  // namespace vorlund

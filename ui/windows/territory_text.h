@@ -7,12 +7,12 @@
 
 namespace vorlund {
 
-/// Who holds territory index `territory` with what, in one line: "7 Midwest USA: Anna (Player 1), 12 troops,
-/// 3 tanks, factory".
+/// Owner, forces and buildings of territory index `territory` in one line: "7 Midwest USA: Anna (Player 1),
+/// 12 troops, 3 tanks, factory".
 QString ShortDescription(const GameState& game, int territory);
 
-/// All that can be known of a territory, in several lines: what ShortDescription says, its oil field and
-/// value, and its neighbours with their numbers.
+/// What ShortDescription says, and the value, the oil field and the numbers and names of the neighbours, in
+/// several lines.
 QString FullDescription(const GameState& game, int territory);
 
 }  // namespace vorlund

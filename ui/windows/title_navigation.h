@@ -3,24 +3,24 @@
 
 namespace vorlund {
 
-/// Where the screens before a game lead to.
+/// The transitions that the title, new-game and load screens can trigger.
 class TitleNavigation {
 public:
     virtual ~TitleNavigation() = default;
 
-    /// From the title to the new-game screen.
+    /// Replaces the title by the new-game screen.
     virtual void PlayGame() = 0;
 
-    /// From the title, which is hidden, to the load screen.
+    /// Hides the title and opens the load screen.
     virtual void LoadGame() = 0;
 
-    /// From the load screen back to the title as it was left.
+    /// Shows the hidden title again.
     virtual void BackToTitle() = 0;
 
-    /// To the board, on the game as it stands: its players have been named, or it has been loaded.
+    /// Opens the board on the current game, which has just been set up or loaded, and closes these screens.
     virtual void OpenBoard() = 0;
 
-    /// Ends the program: every window closes without asking anything.
+    /// Ends the program and closes every window outright.
     virtual void End() = 0;
 };
 

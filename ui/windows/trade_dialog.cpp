@@ -2,6 +2,9 @@
 #include "ui/windows/trade_dialog.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int TroopsY = 38;
@@ -13,31 +16,32 @@ constexpr int TerritoryY = TroopsY + RowHeight / 2;
 
 TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_view topLine)
     : CommandDialog(host, layout.Name, layout.Title, layout.Size) {
-    AddText(QStringLiteral("lblA"), Face::Status, QRect(8, 5, layout.Size.width() - 16, 19), topLine)
+    AddText(u"lblA"_s, Face::Status, QRect(8, 5, layout.Size.width() - 16, 19), topLine)
         ->setAlignment(Qt::AlignCenter);
-    const auto row = [&](const char* name, const char* field, const std::string& caption, int line) {
+    const auto row = [&](const QString& name, const QString& field, const std::string& caption, int line) {
         const int y = TroopsY + line * RowHeight;
         const int x = layout.QuantityCaptionX;
-        TextLabel* label = AddText(QString::fromLatin1(name), Face::Caption,
-                                   QRect(x, y, layout.QuantityFieldX - x - 4, FieldHeight), caption);
-        return AddField(label, QString::fromLatin1(field), QPoint(layout.QuantityFieldX, y), 3);
+        TextLabel* label =
+            AddText(name, Face::Caption, QRect(x, y, layout.QuantityFieldX - x - 4, FieldHeight), caption);
+        return AddField(label, field, QPoint(layout.QuantityFieldX, y), 3);
     };
     TextLabel* lbl3 =
-        AddText(QStringLiteral("lbl3"), Face::Caption,
-                QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight), layout.TerritoryCaption);
-    txtC1_ = AddField(lbl3, QStringLiteral("txtC1"), QPoint(layout.TerritoryFieldX, TerritoryY), 2);
+        AddText(u"lbl3"_s, Face::Caption, QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight),
+                layout.TerritoryCaption);
+    txtC1_ = AddField(lbl3, u"txtC1"_s, QPoint(layout.TerritoryFieldX, TerritoryY), 2);
     txtTroops_ =
-        row("lbl4", "txtTroops", "Number of Troops($" + std::to_string(layout.Prices.Troop) + "):", 0);
-    txtTanks_ = row("lbl5", "txtTanks", "Number of Tanks($" + std::to_string(layout.Prices.Tank) + "):", 1);
-    txtOil_ = row("lbl6", "txtOil", "Barrels of Oil($1/" + std::to_string(BarrelsPerDollar) + "):", 2);
-    CommandLabel* lblGo = AddCommand(QStringLiteral("lblGo"), layout.Command,
+        row(u"lbl4"_s, u"txtTroops"_s, "Number of Troops($" + std::to_string(layout.Prices.Troop) + "):", 0);
+    txtTanks_ =
+        row(u"lbl5"_s, u"txtTanks"_s, "Number of Tanks($" + std::to_string(layout.Prices.Tank) + "):", 1);
+    txtOil_ = row(u"lbl6"_s, u"txtOil"_s, "Barrels of Oil($1/" + std::to_string(BarrelsPerDollar) + "):", 2);
+    CommandLabel* lblGo = AddCommand(u"lblGo"_s, layout.Command,
                                      QRect(layout.QuantityFieldX + 42, TroopsY + RowHeight, 40, FieldHeight));
-    lblGo->SetKey(QStringLiteral("Enter"));
+    lblGo->SetKey(u"Enter"_s);
     connect(lblGo, &CommandLabel::clicked, this, &TradeDialog::Trade);
     for (Field* field : {txtC1_, txtTroops_, txtTanks_, txtOil_}) {
         connect(field, &Field::Entered, this, &TradeDialog::Trade);
     }
-    TakeTerritories({txtC1_});
+    AcceptTerritoryClicks({txtC1_});
     txtC1_->setFocus();
 }
 

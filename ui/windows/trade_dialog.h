@@ -6,8 +6,8 @@
 
 namespace vorlund {
 
-/// What the buy and the sell dialog share: a line across the top, a territory on the left, and troops, tanks
-/// and oil in a column on the right with the command beside them.
+/// Base class of the buy and sell dialogs: a status line, a territory field on the left, and a column of
+/// fields for troops, tanks and oil with the command beside it.
 class TradeDialog : public CommandDialog {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ protected:
         int QuantityCaptionX;
         int QuantityFieldX;
         const char* TerritoryCaption;
-        UnitPrices Prices;  ///< in the captions of the fields
+        UnitPrices Prices;  ///< shown in the captions
         QString Command;
     };
 
@@ -28,7 +28,7 @@ protected:
 
     TradeEntries Entries() const;
 
-    /// Carries the order out, or shows why not.
+    /// Runs the order and shows its outcome.
     virtual void Trade() = 0;
 
 private:
