@@ -7,8 +7,9 @@
 #include "tests/screens/colours.h"
 #include "ui/windows/owner_colours.h"
 #include "ui/windows/owner_map.h"
+#include "ui/windows/territory_rims.h"
 
-// The land as it is painted on the board's map, in the colours of those who hold it.
+// The land as it is painted on the board's map, in the colours of those who hold it, and the rims on it.
 
 namespace vorlund {
 
@@ -31,9 +32,18 @@ struct Land {
         return changed;
     }
 
+    QRegion Show(Rim rim, const TerritorySet& territories) {
+        const QRegion changed = Rims.Show(rim, territories);
+        QPainter painter(&Seen);
+        Map.Paint(painter);
+        Rims.Paint(painter, QRect(QPoint(), Board));
+        return changed;
+    }
+
     Picture Printed{u"map"_s};
     TerritoryMap Territories;
     OwnerMap Map{Printed, Territories};
+    TerritoryRims Rims{Territories};
     QImage Seen;
 };
 
@@ -136,6 +146,44 @@ TEST(Land, AFrontIsADarkLineBetweenTheColoursOfBothSides) {
         EXPECT_LT(front.Line, std::min(within.Line, beyond.Line) * 3 / 4) << owner;
         EXPECT_LT(fromEdge(front.North, owner), fromEdge(within.North, owner) - 3) << owner;
         EXPECT_LT(fromEdge(front.South, other), fromEdge(beyond.South, other) - 3) << owner;
+    }
+}
+
+TEST(Land, RimsComeAndGoWithinWhatIsPaintedAnew) {
+    std::mt19937 chance(5);
+    Land land(1.25);
+    land.Show(All(OwnerMap::Nobody));
+    const QImage bare = land.Seen;
+    for (int i = 0; i < 24; ++i) {
+        const QImage before = land.Seen;
+        const QRegion changed =
+            land.Show(static_cast<Rim>(i % 4), i < 20 ? TerritorySet(1ULL << chance() % 42) : TerritorySet());
+        QImage untold = land.Seen;  // but for what was told to have changed
+        QPainter painter(&untold);
+        painter.setClipRegion(changed);
+        painter.drawImage(0, 0, before);
+        painter.end();
+        EXPECT_EQ(untold, before) << i;
+        EXPECT_NE(land.Seen, i < 23 ? bare : before) << i;
+    }
+    EXPECT_EQ(land.Seen, bare);
+}
+
+TEST(Land, ARimIsSeenOnEveryOwnersLand) {
+    for (int owner = 0; owner <= OwnerMap::Nobody; ++owner) {
+        Land land;
+        land.Show(All(owner));
+        const QImage bare = land.Seen;
+        for (const Rim rim : {Rim::Lit, Rim::Changed, Rim::Conquered, Rim::Pointed}) {
+            land.Show(rim, TerritorySet(1ULL << 35));  // China, which has some 200 pixels at its edge
+            int plain = 0;
+            for (int i = 0; i < Board.width() * Board.height(); ++i) {
+                const QPoint place(i % Board.width(), i / Board.width());
+                plain += Contrast(land.Seen.pixel(place), bare.pixel(place)) >= 2 ? 1 : 0;
+            }
+            EXPECT_GE(plain, 150) << "rim " << static_cast<int>(rim) << " on the land of " << owner;
+            land.Show(rim, {});
+        }
     }
 }
 
