@@ -106,6 +106,19 @@ std::string AttacksLeftText(const GameState& game) {
     return "You have " + std::to_string(left) + (left == 1 ? " attack" : " attacks") + " left this turn.";
 }
 
+TerritorySet AttackSources(const GameState& game) {
+    return WhyNoAttack(game) ? TerritorySet() : Sources(game, Attacking);
+}
+
+TerritorySet AttackDestinations(const GameState& game, std::string_view from) {
+    return WhyNoAttack(game) ? TerritorySet() : Destinations(game, Attacking, from);
+}
+
+Most MostToAttack(const GameState& game, const OrderEntries& entries, Goods goods) {
+    const WhyNot whyNot = WhyNoAttack(game);
+    return whyNot ? Most{0, *whyNot} : MostToSend(game, Attacking, entries, goods);
+}
+
 std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, const OrderEntries& entries) {
     if (WhyNoAttack(game)) {
         return Beep{};

@@ -53,6 +53,14 @@ WhyNot WhyNoAttack(const GameState& game);
 /// "You have 2 attacks left this turn." for the current player.
 std::string AttacksLeftText(const GameState& game);
 
+/// From where the current player can attack, and where to from the one that is entered as `from` or else from
+/// any; none without an attack left. See Sources and Destinations.
+TerritorySet AttackSources(const GameState& game);
+TerritorySet AttackDestinations(const GameState& game, std::string_view from);
+
+/// The most troops or tanks that an attack could take; see MostToSend.
+Most MostToAttack(const GameState& game, const OrderEntries& entries, Goods goods);
+
 /// The current player's attack, fought to its end: the survivors take the target over or the force is lost,
 /// and an attacking territory left empty is given up. A beep when there is WhyNoAttack, a refusal for
 /// entries that make no legal attack, otherwise the report of the battle. Reseeds `random` unless it beeps.

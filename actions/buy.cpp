@@ -20,12 +20,18 @@ std::optional<std::int16_t> PriceOf(const TradeOrder& order) {
                       1.0 * BuyingPrices.Tank * order.Force.Tanks + std::floor(order.Oil * DollarsPerBarrel));
 }
 
+// How many dollars the current player lacks for an order, none or fewer if it can be paid; nothing when its
+// price does not fit 16 bits.
+std::optional<int> Lacking(const GameState& game, const TradeOrder& order) {
+    const auto price = PriceOf(order);
+    return price ? std::optional(*price - game.Current().Money) : std::nullopt;
+}
+
 // Where the units would go, or why they cannot.
 std::variant<Refusal, int> Placement(const GameState& game, const TypedForce& force,
                                      const TradeEntries& entries) {
     auto choice = UnitTerritory(Buying, KindOf(force), entries);
-    if (const int* t = std::get_if<int>(&choice);
-        t != nullptr && !(Owns(game, game.CurrentPlayer, *t) && game.TerritoryAt(*t).HasFactory)) {
+    if (const int* t = std::get_if<int>(&choice); t != nullptr && !Has(BuyTerritories(game), *t)) {
         return Refusal{"To buy " + KindOf(force) + " the territory must have a factory and be owned by you."};
     }
     return choice;
@@ -35,6 +41,23 @@ std::variant<Refusal, int> Placement(const GameState& game, const TypedForce& fo
 
 std::string MoneyLine(const GameState& game) {
     return "You have $" + std::to_string(game.Current().Money) + " to spend.";
+}
+
+TerritorySet BuyTerritories(const GameState& game) {
+    return TerritoriesWhere(
+        [&](int t) { return Owns(game, game.CurrentPlayer, t) && game.TerritoryAt(t).HasFactory; });
+}
+
+Most MostToBuy(const GameState& game, const TradeEntries& entries, Goods goods) {
+    auto t = ReadTerritory(entries.Territory, TerritoryRounding::IndexInRange);
+    t = t && Has(BuyTerritories(game), *t) ? t : std::nullopt;
+    TradeOrder order = OtherQuantities(entries, goods);
+    const int left = -Lacking(game, order).value_or(0);
+    const int amount = LargestTraded(order, goods, [&] {
+        const auto lacking = Lacking(game, order);
+        return lacking && *lacking <= 0 && ResultOf(game, Buying, order, t);
+    });
+    return {amount, "at most " + std::to_string(amount) + " with $" + std::to_string(left)};
 }
 
 std::variant<Refusal, Report> Buy(GameState& game, const TradeEntries& entries) {
@@ -55,16 +78,15 @@ std::variant<Refusal, Report> Buy(GameState& game, const TradeEntries& entries) 
     if (!order || order->IsEmpty()) {
         return Refusal{NoTransactionText};
     }
-    const auto price = PriceOf(*order);
-    if (!price) {
+    const auto lacking = Lacking(game, *order);
+    if (!lacking) {
         return Refusal{NoTransactionText};
     }
-    const int missing = *price - game.Current().Money;
-    if (missing > 0) {
+    if (*lacking > 0) {
         return Refusal{
             "The cost of what you are buying exceeds your amount of money.\r"
             "You need $" +
-            std::to_string(missing) + " more to complete that transaction."};
+            std::to_string(*lacking) + " more to complete that transaction."};
     }
     const auto booking = Book(game, Buying, *order, territory);
     if (!booking) {

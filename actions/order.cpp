@@ -33,7 +33,10 @@ std::optional<Order> ReadWay(const GameState& game, const OrderTerms& terms, con
     return Order{*from, *to, *force};
 }
 
-std::optional<Refusal> RefuseForce(const Units& force, const Units& held, const OrderTerms& terms) {
+/// Why a force cannot go from territory index `from` to `to`, which may be open, or nothing.
+std::optional<Refusal> RefuseForce(const GameState& game, const OrderTerms& terms, const Units& force,
+                                   int from, std::optional<int> to) {
+    const Units& held = game.TerritoryAt(from).Stationed;
     const std::string more = terms.MoreThan;
     const std::string negative = terms.Negative;
     if (force.Troops > held.Troops) {
@@ -48,10 +51,58 @@ std::optional<Refusal> RefuseForce(const Units& force, const Units& held, const 
     if (force.Tanks < 0) {
         return Refusal{negative + "tanks."};
     }
+    const bool joins = to && !terms.IsAttack;
+    if (joins && !Sum(game.TerritoryAt(*to).Stationed, force)) {
+        return Refusal{terms.Invalid};
+    }
     return std::nullopt;
 }
 
+TerritorySet DestinationsFrom(const GameState& game, const OrderTerms& terms, int from) {
+    return TerritoriesWhere([&](int to) { return CanReach(game, terms.IsAttack, from, to); });
+}
+
+/// The one of the Sources that is entered, if any.
+std::optional<int> SourceIn(const GameState& game, const OrderTerms& terms, std::string_view entry) {
+    const auto from = ReadTerritory(entry, TerritoryRounding::Index);
+    return from && Has(Sources(game, terms), *from) ? from : std::nullopt;
+}
+
 }  // namespace
+
+TerritorySet Sources(const GameState& game, const OrderTerms& terms) {
+    return TerritoriesWhere([&](int t) {
+        return !game.TerritoryAt(t).Stationed.IsEmpty() && DestinationsFrom(game, terms, t).any();
+    });
+}
+
+TerritorySet Destinations(const GameState& game, const OrderTerms& terms, std::string_view from) {
+    if (const auto source = SourceIn(game, terms, from)) {
+        return DestinationsFrom(game, terms, *source);
+    }
+    const TerritorySet sources = Sources(game, terms);
+    TerritorySet all;
+    for (int t = 0; t < NumTerritories; ++t) {
+        all |= Has(sources, t) ? DestinationsFrom(game, terms, t) : TerritorySet();
+    }
+    return all;
+}
+
+Most MostToSend(const GameState& game, const OrderTerms& terms, const OrderEntries& entries, Goods goods) {
+    const auto from = SourceIn(game, terms, entries.From);
+    if (!from) {
+        return NoTerritoryYet();
+    }
+    auto to = ReadTerritory(entries.To, TerritoryRounding::Index);
+    to = to && CanReach(game, terms.IsAttack, *from, *to) ? to : std::nullopt;
+    const bool troops = goods == Goods::Troops;
+    const int amount = LargestAccepted([&](int quantity) {
+        const auto count = static_cast<std::int16_t>(quantity);
+        return !RefuseForce(game, terms, troops ? Units{count, 0} : Units{0, count}, *from, to);
+    });
+    const Units& held = game.TerritoryAt(*from).Stationed;
+    return MostOfUnits(amount, troops ? held.Troops : held.Tanks, goods, *from);
+}
 
 std::variant<Refusal, Order> ReadOrder(const GameState& game, const OrderTerms& terms,
                                        const OrderEntries& entries) {
@@ -72,7 +123,7 @@ std::variant<Refusal, Order> ReadOrder(const GameState& game, const OrderTerms& 
     if (!order) {
         return Refusal{terms.Invalid};
     }
-    if (const auto refusal = RefuseForce(order->Force, game.TerritoryAt(order->From).Stationed, terms)) {
+    if (const auto refusal = RefuseForce(game, terms, order->Force, order->From, order->To)) {
         return *refusal;
     }
     return *order;

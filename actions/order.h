@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 
+#include "actions/most.h"
 #include "actions/outcome.h"
 #include "state/game_state.h"
+#include "state/territory_set.h"
 
 namespace vorlund {
 
@@ -22,7 +26,7 @@ struct OrderEntries {
 struct Order {
     int From = 0;  ///< territory index
     int To = 0;
-    Units Force;
+    Units Force;  ///< none of it negative
 };
 
 /// What tells moves from attacks.
@@ -36,9 +40,20 @@ struct OrderTerms {
     const char* Negative;  ///< fewer than none; "troops." follows
 };
 
-/// The order that `entries` give, if the map allows it and the territory holds the force, or why there is
-/// none. Whether there is anything to send is asked before fractions are cut off, so half a troop is an
-/// order.
+/// From where the current player could send something: own territories with units and a destination.
+TerritorySet Sources(const GameState& game, const OrderTerms& terms);
+
+/// Where it could go from the territory that is entered as `from`, or, if that is none of the Sources, from
+/// any of them.
+TerritorySet Destinations(const GameState& game, const OrderTerms& terms, std::string_view from);
+
+/// The most troops or tanks that could be sent, "10 troops in 7", as far as one of the Sources is entered.
+/// The room at the destination counts if a possible one is entered.
+Most MostToSend(const GameState& game, const OrderTerms& terms, const OrderEntries& entries, Goods goods);
+
+/// The order that `entries` give, if the map allows it, the territory holds the force and, for a move, there
+/// is room for it, or why there is none. Whether there is anything to send is asked before fractions are cut
+/// off, so half a troop is an order.
 std::variant<Refusal, Order> ReadOrder(const GameState& game, const OrderTerms& terms,
                                        const OrderEntries& entries);
 

@@ -3,6 +3,7 @@
 
 #include "state/ownership.h"
 #include "state/prices.h"
+#include "state/typed_number.h"
 #include "turn/victory.h"
 
 namespace vorlund {
@@ -10,26 +11,62 @@ namespace {
 
 constexpr TradeTerms Selling{"sell", "sold", -1, SellingPrices};
 
-// Where the units would come from, or why they cannot.
-std::variant<Refusal, int> SourceOf(const GameState& game, const Units& force, const TradeEntries& entries) {
-    auto choice = UnitTerritory(Selling, KindOf(force), entries);
-    const int* t = std::get_if<int>(&choice);
-    if (t == nullptr) {
-        return choice;
-    }
-    if (!Owns(game, game.CurrentPlayer, *t)) {
+// Why the current player cannot sell these units out of territory index `t`, or nothing.
+std::optional<Refusal> RefuseUnits(const GameState& game, int t, const Units& force) {
+    if (!Owns(game, game.CurrentPlayer, t)) {
         return Refusal{"To sell " + KindOf(force) + " the territory must be owned by you."};
     }
-    const Units& stationed = game.TerritoryAt(*t).Stationed;
+    const Units& stationed = game.TerritoryAt(t).Stationed;
     if (force.Troops > stationed.Troops || force.Tanks > stationed.Tanks) {
         return Refusal{std::string("You cannot sell more ") +
                        (force.Troops > stationed.Troops ? "Troops" : "Tanks") +
                        " than you have in a territory."};
     }
+    return std::nullopt;
+}
+
+bool HasOil(const GameState& game, std::int16_t barrels) {
+    return barrels == 0 || barrels <= game.Current().Oil;
+}
+
+// Where the units would come from, or why they cannot.
+std::variant<Refusal, int> SourceOf(const GameState& game, const Units& force, const TradeEntries& entries) {
+    auto choice = UnitTerritory(Selling, KindOf(force), entries);
+    if (const int* t = std::get_if<int>(&choice); t != nullptr) {
+        if (const auto refusal = RefuseUnits(game, *t, force)) {
+            return *refusal;
+        }
+    }
     return choice;
 }
 
 }  // namespace
+
+TerritorySet SellTerritories(const GameState& game) {
+    return TerritoriesWhere([&](int t) {
+        return !RefuseUnits(game, t, {1, 0}) || !RefuseUnits(game, t, {0, 1});
+    });
+}
+
+Most MostToSell(const GameState& game, const TradeEntries& entries, Goods goods) {
+    auto t = ReadTerritory(entries.Territory, TerritoryRounding::IndexInRange);
+    t = t && Has(SellTerritories(game), *t) ? t : std::nullopt;
+    if (!t && goods != Goods::Oil) {
+        return NoTerritoryYet();
+    }
+    TradeOrder order = OtherQuantities(entries, goods);
+    const auto accepts = [&] {
+        return (order.Force.IsEmpty() || (t && !RefuseUnits(game, *t, order.Force))) &&
+               HasOil(game, order.Oil) && ResultOf(game, Selling, order, t);
+    };
+    order = accepts() ? order : TradeOrder{};
+    const int amount = LargestTraded(order, goods, accepts);
+    if (goods == Goods::Oil) {
+        return {amount, std::to_string(amount) + (amount == 1 ? " barrel" : " barrels")};
+    }
+    const Units& held = game.TerritoryAt(*t).Stationed;
+    return MostOfUnits(amount, goods == Goods::Troops ? held.Troops : held.Tanks, goods, *t);
+}
 
 std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntries& entries) {
     const auto quantities = ReadQuantities(entries);
@@ -46,7 +83,7 @@ std::variant<Refusal, Report, NoSurvivor> Sell(GameState& game, const TradeEntri
         }
         territory = std::get<int>(source);
     }
-    if (order->Oil != 0 && order->Oil > game.Current().Oil) {
+    if (!HasOil(game, order->Oil)) {
         return Refusal{"You cannot sell more oil barrels than you have."};
     }
     const auto booking = order->IsEmpty() ? std::nullopt : Book(game, Selling, *order, territory);

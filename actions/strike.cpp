@@ -1,11 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "actions/strike.h"
 
+#include <optional>
+
 #include "actions/force.h"
 #include "state/player_words.h"
 #include "state/typed_number.h"
 
 namespace vorlund {
+namespace {
+
+/// Why the current player cannot bomb territory index `t`, or nothing.
+std::optional<Refusal> RefuseTarget(const GameState& game, int t) {
+    if (!game.TerritoryAt(t).Occupied) {
+        return Refusal{"You may not nuke an unoccupied territory."};
+    }
+    if (Owns(game, game.CurrentPlayer, t)) {
+        return Refusal{"You may not nuke your own territory."};
+    }
+    return std::nullopt;
+}
+
+}  // namespace
 
 Units DropBomb(GameState& game, int target) {
     Territory& territory = game.TerritoryAt(target);
@@ -25,6 +41,11 @@ WhyNot WhyNoStrike(const GameState& game) {
     return game.Current().HasNuke ? std::nullopt : WhyNot("You have no nuclear bomb.");
 }
 
+TerritorySet StrikeTargets(const GameState& game) {
+    return WhyNoStrike(game) ? TerritorySet()
+                             : TerritoriesWhere([&](int t) { return !RefuseTarget(game, t); });
+}
+
 std::variant<Beep, Refusal, Report> Strike(GameState& game, std::string_view target) {
     if (WhyNoStrike(game)) {
         return Beep{};
@@ -36,13 +57,10 @@ std::variant<Beep, Refusal, Report> Strike(GameState& game, std::string_view tar
     if (!t) {
         return Refusal{"The country number must be 1-42."};
     }
+    if (const auto refusal = RefuseTarget(game, *t)) {
+        return *refusal;
+    }
     const Territory& territory = game.TerritoryAt(*t);
-    if (!territory.Occupied) {
-        return Refusal{"You may not nuke an unoccupied territory."};
-    }
-    if (Owns(game, game.CurrentPlayer, *t)) {
-        return Refusal{"You may not nuke your own territory."};
-    }
     const Units losses = DropBomb(game, *t);
     return Report{"Vorlund - Nuclear Strike Results",
                   "Your nuclear attack upon " + std::string(territory.Name) + " was successful.",

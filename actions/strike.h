@@ -7,6 +7,7 @@
 
 #include "actions/outcome.h"
 #include "state/game_state.h"
+#include "state/territory_set.h"
 #include "turn/commands.h"
 #include "turn/report.h"
 
@@ -22,6 +23,9 @@ std::string BombText(const GameState& game);
 
 /// Why the strike command is not enabled for the current player, who holds no bomb.
 WhyNot WhyNoStrike(const GameState& game);
+
+/// What the current player's bomb can be dropped on: whatever another player holds; nothing without a bomb.
+TerritorySet StrikeTargets(const GameState& game);
 
 /// The current player's strike upon the territory whose number is typed in `target`. A beep when there is
 /// WhyNoStrike, a refusal for an entry that names no territory of another player, otherwise the report of the

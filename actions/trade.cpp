@@ -8,6 +8,26 @@
 #include "state/typed_number.h"
 
 namespace vorlund {
+namespace {
+
+/// What the parts of an order change hands for.
+struct Dollars {
+    int Troops;
+    int Tanks;
+    int Oil;
+
+    int Total() const { return Troops + Tanks + Oil; }
+};
+
+int LotsOf(const TradeOrder& order) {
+    return order.Oil / BarrelsPerDollar;
+}
+
+Dollars DollarsFor(const TradeTerms& terms, const TradeOrder& order) {
+    return {terms.Prices.Troop * order.Force.Troops, terms.Prices.Tank * order.Force.Tanks, LotsOf(order)};
+}
+
+}  // namespace
 
 std::optional<TradeQuantities> ReadQuantities(const TradeEntries& entries) {
     const auto force = ReadForce(entries.Troops, entries.Tanks);
@@ -39,38 +59,58 @@ std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const std::str
     return *t;
 }
 
-std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const TradeOrder& order, int t) {
-    Player& player = game.Current();
-    Territory& territory = game.TerritoryAt(t);
-    TradeBooking booking;
-    const auto enter = [&](int amount, const char* goods, int dollars, const std::string& where) {
-        if (amount != 0) {
-            booking.Total += dollars;
-            booking.Lines += std::string("You ") + terms.PastVerb + " " + std::to_string(amount) + " " +
-                             goods + " for $" + std::to_string(dollars) + where + ".\r";
-        }
-    };
-    const std::string place = " in " + std::string(territory.Name);
-    const int lots = order.Oil / BarrelsPerDollar;
-    const int barrels = lots * BarrelsPerDollar;
-    enter(order.Force.Troops, "Troops", terms.Prices.Troop * order.Force.Troops, place);
-    enter(order.Force.Tanks, "Tanks", terms.Prices.Tank * order.Force.Tanks, place);
-    enter(barrels, "oil barrels", lots, "");
-    booking.Lines += barrels != 0 ? "\r" : "";
+std::int16_t& CountOf(TradeOrder& order, Goods goods) {
+    return goods == Goods::Troops  ? order.Force.Troops
+           : goods == Goods::Tanks ? order.Force.Tanks
+                                   : order.Oil;
+}
 
-    const bool buys = terms.Direction > 0;
-    const Units force = buys ? order.Force : -order.Force;
+TradeOrder OtherQuantities(TradeEntries entries, Goods goods) {
+    (goods == Goods::Troops ? entries.Troops : goods == Goods::Tanks ? entries.Tanks : entries.Oil).clear();
+    const auto quantities = ReadQuantities(entries);
+    const auto order = quantities ? CutAndCorrect(*quantities) : std::nullopt;
+    return order.value_or(TradeOrder{});
+}
+
+std::optional<TradeResult> ResultOf(const GameState& game, const TradeTerms& terms, const TradeOrder& order,
+                                    std::optional<int> t) {
+    const Player& player = game.Current();
+    const Units force = terms.Direction > 0 ? order.Force : -order.Force;
     const auto total = Sum(player.Total, force);
-    const auto stationed = Sum(territory.Stationed, force);
-    const int money = player.Money - terms.Direction * booking.Total;
-    const int oil = player.Oil + terms.Direction * barrels;
+    const auto stationed = t ? Sum(game.TerritoryAt(*t).Stationed, force) : Units{};
+    const int money = player.Money - terms.Direction * DollarsFor(terms, order).Total();
+    const int oil = player.Oil + terms.Direction * LotsOf(order) * BarrelsPerDollar;
     if (!total || !stationed || !FitsInt16(money) || !FitsInt16(oil)) {
         return std::nullopt;
     }
-    player.Total = *total;
-    territory.Stationed = *stationed;
-    player.Money = static_cast<std::int16_t>(money);
-    player.Oil = static_cast<std::int16_t>(oil);
+    return TradeResult{*total, *stationed, static_cast<std::int16_t>(money), static_cast<std::int16_t>(oil)};
+}
+
+std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const TradeOrder& order, int t) {
+    const auto result = ResultOf(game, terms, order, t);
+    if (!result) {
+        return std::nullopt;
+    }
+    Player& player = game.Current();
+    Territory& territory = game.TerritoryAt(t);
+    const Dollars dollars = DollarsFor(terms, order);
+    TradeBooking booking{{}, dollars.Total()};
+    const auto enter = [&](int amount, const char* goods, int price, const std::string& where) {
+        if (amount != 0) {
+            booking.Lines += std::string("You ") + terms.PastVerb + " " + std::to_string(amount) + " " +
+                             goods + " for $" + std::to_string(price) + where + ".\r";
+        }
+    };
+    const std::string place = " in " + std::string(territory.Name);
+    enter(order.Force.Troops, "Troops", dollars.Troops, place);
+    enter(order.Force.Tanks, "Tanks", dollars.Tanks, place);
+    enter(LotsOf(order) * BarrelsPerDollar, "oil barrels", dollars.Oil, "");
+    booking.Lines += LotsOf(order) != 0 ? "\r" : "";
+
+    player.Total = result->Total;
+    territory.Stationed = result->Stationed;
+    player.Money = result->Money;
+    player.Oil = result->Oil;
     return booking;
 }
 

@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "actions/force.h"
+#include "actions/most.h"
 #include "actions/outcome.h"
 #include "state/game_state.h"
 #include "state/prices.h"
@@ -51,6 +52,14 @@ struct TradeOrder {
     bool IsEmpty() const { return Force.IsEmpty() && Oil == 0; }
 };
 
+/// What the fields that a trade changes hold after it.
+struct TradeResult {
+    Units Total;
+    Units Stationed;
+    std::int16_t Money = 0;
+    std::int16_t Oil = 0;
+};
+
 /// A trade that has been carried out: its lines in the report, and the dollars that changed hands.
 struct TradeBooking {
     std::string Lines;
@@ -64,6 +73,23 @@ std::optional<TradeQuantities> ReadQuantities(const TradeEntries& entries);
 /// nothing when one does not fit 16 bits.
 std::optional<TradeOrder> CutAndCorrect(const TradeQuantities& quantities);
 
+/// The count of `goods` in an order.
+std::int16_t& CountOf(TradeOrder& order, Goods goods);
+
+/// The quantities that are entered beside that of `goods`; nothing at all when one of them is no quantity.
+TradeOrder OtherQuantities(TradeEntries entries, Goods goods);
+
+/// The largest quantity of `goods`, of oil in whole lots, with which `accepts` is true for `order`, in which
+/// it is varied.
+template <class Accepts>
+int LargestTraded(TradeOrder& order, Goods goods, Accepts accepts) {
+    const int amount = LargestAccepted([&](int quantity) {
+        CountOf(order, goods) = static_cast<std::int16_t>(quantity);
+        return accepts();
+    });
+    return goods == Goods::Oil ? amount - amount % BarrelsPerDollar : amount;
+}
+
 /// What texts call the units of a trade whose territory is looked at: troops, if any are traded.
 template <typename Force>
 std::string KindOf(const Force& force) {
@@ -74,9 +100,14 @@ std::string KindOf(const Force& force) {
 std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const std::string& kind,
                                          const TradeEntries& entries);
 
+/// What comes of an order of the current player with its units in territory index `territory`, or in one that
+/// is not chosen yet and has room. Nothing when a field would leave the 16-bit range.
+std::optional<TradeResult> ResultOf(const GameState& game, const TradeTerms& terms, const TradeOrder& order,
+                                    std::optional<int> territory);
+
 /// Carries out the whole order for the current player, with the units in territory index `territory` (any one
 /// when there are none) and oil at a dollar for 3 barrels, in whole lots. Nothing, and no change,
-/// when a field would leave the 16-bit range.
+/// when there is no ResultOf it.
 std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const TradeOrder& order,
                                  int territory);
 

@@ -27,6 +27,19 @@ std::string MovesLeftText(const GameState& game) {
     return "You have " + std::to_string(left) + (left == 1 ? " move" : " moves") + " left this turn.";
 }
 
+TerritorySet MoveSources(const GameState& game) {
+    return WhyNoMove(game) ? TerritorySet() : Sources(game, Moving);
+}
+
+TerritorySet MoveDestinations(const GameState& game, std::string_view from) {
+    return WhyNoMove(game) ? TerritorySet() : Destinations(game, Moving, from);
+}
+
+Most MostToMove(const GameState& game, const OrderEntries& entries, Goods goods) {
+    const WhyNot whyNot = WhyNoMove(game);
+    return whyNot ? Most{0, *whyNot} : MostToSend(game, Moving, entries, goods);
+}
+
 std::variant<Beep, Refusal, Moved> Tran(GameState& game, const OrderEntries& entries) {
     if (WhyNoMove(game)) {
         return Beep{};
@@ -38,12 +51,8 @@ std::variant<Beep, Refusal, Moved> Tran(GameState& game, const OrderEntries& ent
     const auto& [from, to, force] = std::get<Order>(read);
     Territory& source = game.TerritoryAt(from);
     Territory& destination = game.TerritoryAt(to);
-    const auto together = Sum(destination.Stationed, force);
-    if (!together) {
-        return Refusal{Moving.Invalid};
-    }
     Add(source.Stationed, -force);
-    destination.Stationed = *together;
+    Add(destination.Stationed, force);
     Claim(game, to, game.CurrentPlayer);
     Add(game.Current().MovesLeft, -1);
     if (source.Stationed.IsEmpty()) {

@@ -52,14 +52,17 @@ constexpr BuildingTerms FactoryTerms{"Factory",   "Building a factory",   "A fac
 constexpr BuildingTerms DefenseTerms{"Defense", "Building defense",     "Defense",
                                      "defense", &Territory::HasDefense, DefensePrice};
 
+bool CanStandIn(const GameState& game, const BuildingTerms& terms, int t) {
+    return Owns(game, game.CurrentPlayer, t) && !(game.TerritoryAt(t).*terms.Flag);
+}
+
 std::variant<Refusal, Purchase> Build(GameState& game, const BuildingTerms& terms, std::string_view typed) {
     const auto t = ReadTerritory(typed, TerritoryRounding::Number);
     if (!t) {
         return Refusal{std::string(terms.Building) +
                        " requires a valid territory number (1-42).\rNo transaction was made."};
     }
-    Territory& territory = game.TerritoryAt(*t);
-    if (!Owns(game, game.CurrentPlayer, *t) || territory.*terms.Flag) {
+    if (!CanStandIn(game, terms, *t)) {
         return Refusal{std::string("The territory must be owned by you\rand not already have ") +
                        terms.Present + "."};
     }
@@ -67,6 +70,7 @@ std::variant<Refusal, Purchase> Build(GameState& game, const BuildingTerms& term
         return Refusal{std::string("You do not have enough money.\r") + terms.Priced + " requires $" +
                        std::to_string(terms.Price) + "."};
     }
+    Territory& territory = game.TerritoryAt(*t);
     territory.*terms.Flag = true;
     Add(game.Current().Money, -terms.Price);
     return Purchase{std::string(terms.Built) + " built in " + std::string(territory.Name) + ".\r"};
@@ -102,6 +106,14 @@ std::variant<Nothing, Refusal, Purchase> RaiseLevel(GameState& game, Track track
     Add(player.Money, -*price);
     return Purchase{"Level " + std::to_string(player.*terms.Level) + " " + terms.Name +
                     " upgrade complete.\r"};
+}
+
+TerritorySet FactorySites(const GameState& game) {
+    return TerritoriesWhere([&](int t) { return CanStandIn(game, FactoryTerms, t); });
+}
+
+TerritorySet DefenseSites(const GameState& game) {
+    return TerritoriesWhere([&](int t) { return CanStandIn(game, DefenseTerms, t); });
 }
 
 std::variant<Refusal, Purchase> Fact(GameState& game, std::string_view territory) {

@@ -7,6 +7,7 @@
 
 #include "actions/outcome.h"
 #include "state/game_state.h"
+#include "state/territory_set.h"
 #include "turn/commands.h"
 
 namespace vorlund {
@@ -32,6 +33,10 @@ WhyNot WhyNoUpgrade(const GameState& game, Track track);
 /// Raises the current player by a level for that level's price; refused when the money is short, nothing at
 /// level 3.
 std::variant<Nothing, Refusal, Purchase> RaiseLevel(GameState& game, Track track);
+
+// Where the current player can build: in own territories without such a building.
+TerritorySet FactorySites(const GameState& game);
+TerritorySet DefenseSites(const GameState& game);
 
 /// Builds a factory in the current player's territory whose number `territory` holds, as typed; the
 /// number is rounded, halves to the even neighbour. Refused when that is no territory number, when the

@@ -53,12 +53,16 @@ std::string Selection::Open() {
     return PlayerAndName(game_, game_.CurrentPlayer) + ", has been chosen to select first.";
 }
 
+TerritorySet Selection::Free() const {
+    return TerritoriesWhere([this](int t) { return !game_.TerritoryAt(t).Occupied; });
+}
+
 Selection::Step Selection::Entr(std::string_view typed) {
     const auto t = ReadTerritory(typed, TerritoryRounding::IndexInRange);
     if (!t) {
         return Reject("Invalid territory selection.");
     }
-    if (game_.TerritoryAt(*t).Occupied) {
+    if (!Has(Free(), *t)) {
         return Reject("Territory already occupied.");
     }
     Settle(game_, *t, game_.CurrentPlayer, HumanTreasury);

@@ -6,6 +6,7 @@
 
 #include "state/game_state.h"
 #include "state/random.h"
+#include "state/territory_set.h"
 
 namespace vorlund {
 
@@ -36,6 +37,9 @@ public:
     /// Draws the first selector, reseeding before each draw until it falls on a human (there must be one),
     /// and returns the first message.
     std::string Open();
+
+    /// What CurrentPlayer can select: whatever nobody holds.
+    TerritorySet Free() const;
 
     /// CurrentPlayer selects the territory whose number, 1 to 42, has been typed.
     Step Entr(std::string_view typed);
