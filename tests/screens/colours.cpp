@@ -17,7 +17,7 @@ Triple Linear(QRgb colour) {
     return {part(qRed(colour)), part(qGreen(colour)), part(qBlue(colour))};
 }
 
-Triple Times(const Eye& matrix, const Triple& values) {
+Triple Times(const ColourVision& matrix, const Triple& values) {
     Triple product{};
     for (std::size_t row = 0; row < 3; ++row) {
         for (std::size_t i = 0; i < 3; ++i) {
@@ -27,11 +27,11 @@ Triple Times(const Eye& matrix, const Triple& values) {
     return product;
 }
 
-Triple Lab(QRgb colour, const Eye& eye) {
-    constexpr Eye toXyz{{{0.4124564, 0.3575761, 0.1804375},
-                         {0.2126729, 0.7151522, 0.0721750},
-                         {0.0193339, 0.1191920, 0.9503041}}};
-    Triple seen = Times(eye, Linear(colour));
+Triple Lab(QRgb colour, const ColourVision& vision) {
+    constexpr ColourVision toXyz{{{0.4124564, 0.3575761, 0.1804375},
+                                  {0.2126729, 0.7151522, 0.0721750},
+                                  {0.0193339, 0.1191920, 0.9503041}}};
+    Triple seen = Times(vision, Linear(colour));
     std::transform(seen.begin(), seen.end(), seen.begin(),
                    [](double part) { return std::clamp(part, 0.0, 1.0); });
     const Triple xyz = Times(toXyz, seen);
@@ -51,10 +51,10 @@ double Luminance(QRgb colour) {
 
 }  // namespace
 
-const std::vector<std::pair<const char*, Eye>>& Eyes() {
+const std::vector<std::pair<const char*, ColourVision>>& ColourVisions() {
     // Machado, Oliveira and Fernandes, "A Physiologically-based Model for Simulation of Color Vision
     // Deficiency", 2009, the table for severity 1.0
-    static const std::vector<std::pair<const char*, Eye>> eyes{
+    static const std::vector<std::pair<const char*, ColourVision>> visions{
         {"normal", {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}},
         {"protan",
          {{{0.152286, 1.052583, -0.204868},
@@ -68,12 +68,12 @@ const std::vector<std::pair<const char*, Eye>>& Eyes() {
          {{{1.255528, -0.076749, -0.178779},
            {-0.078411, 0.930809, 0.147602},
            {0.004733, 0.691367, 0.303900}}}}};
-    return eyes;
+    return visions;
 }
 
-double Apart(QRgb one, QRgb other, const Eye& eye) {
-    const Triple a = Lab(one, eye);
-    const Triple b = Lab(other, eye);
+double LabDistance(QRgb one, QRgb other, const ColourVision& vision) {
+    const Triple a = Lab(one, vision);
+    const Triple b = Lab(other, vision);
     return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
 }
 

@@ -8,16 +8,16 @@
 
 namespace vorlund {
 
-/// What a kind of eye makes of linear red, green and blue.
-using Eye = std::array<std::array<double, 3>, 3>;
+/// A kind of colour vision: the matrix from linear red, green and blue to those perceived.
+using ColourVision = std::array<std::array<double, 3>, 3>;
 
-/// An eye that sees all colours, and for each kind of cone one without it.
-const std::vector<std::pair<const char*, Eye>>& Eyes();
+/// Normal vision and the three kinds of colour blindness, by name.
+const std::vector<std::pair<const char*, ColourVision>>& ColourVisions();
 
-/// How far apart two colours are in CIE Lab to such an eye.
-double Apart(QRgb one, QRgb other, const Eye& eye);
+/// The distance of two colours in CIE Lab as perceived by `vision`.
+double LabDistance(QRgb one, QRgb other, const ColourVision& vision);
 
-/// The contrast of two colours, from 1 to 21.
+/// The WCAG contrast of two colours, from 1 to 21.
 double Contrast(QRgb one, QRgb other);
 
 }  // namespace vorlund

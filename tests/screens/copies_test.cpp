@@ -3,15 +3,15 @@
 #include <QProcess>
 #include <QTest>
 
-#include "tests/screens/hands.h"
+#include "tests/screens/driver.h"
 #include "ui/machine/data_folder.h"
 
 namespace vorlund {
 namespace {
 
-constexpr int Patience = 60000;  // milliseconds; a busy machine may take its time
+constexpr int Timeout = 60000;  ///< milliseconds, enough for a busy machine
 
-// A copy of the real program, started by the user who has this home.
+// A running copy of the program for the user whose home folder is `home`.
 struct Copy : QProcess {
     explicit Copy(const QTemporaryDir& home) : lock(home.filePath("vorlund.lock")) {
         setProcessChannelMode(MergedChannels);
@@ -27,28 +27,28 @@ struct Copy : QProcess {
     QString lock;
 };
 
-TEST(Copies, OneStaysAndAnotherCanFollowIt) {
+TEST(Copies, OneRunsPerUserAndAKilledOneLeavesNoLock) {
     const QTemporaryDir homes[2];
     Copy ofAnotherUser(homes[1]);
-    for (int round = 0; round < 2; ++round) {  // the first round's copy is killed and leaves its lock behind
+    for (int round = 0; round < 2; ++round) {  // the second finds the lock file of a killed copy
         Copy first(homes[0]);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return first.HoldsTheLock(); }, Patience));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return first.HoldsTheLock(); }, Timeout));
         Copy seconds[]{Copy(homes[0]), Copy(homes[0]), Copy(homes[0])};
         for (Copy& second : seconds) {
-            second.waitForFinished(Patience);
+            second.waitForFinished(Timeout);
             EXPECT_TRUE(second.exitStatus() == QProcess::NormalExit && second.exitCode() == 3);
             EXPECT_EQ(second.readAll(), "");
         }
         EXPECT_TRUE(first.HoldsTheLock());
         first.kill();
-        first.waitForFinished(Patience);
+        first.waitForFinished(Timeout);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ofAnotherUser.HoldsTheLock(); }, Patience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ofAnotherUser.HoldsTheLock(); }, Timeout));
     ofAnotherUser.kill();
-    ofAnotherUser.waitForFinished(Patience);
+    ofAnotherUser.waitForFinished(Timeout);
 }
 
-TEST(DataFolder, IsNamedByTheBytesOfTheEnvironment) {
+TEST(DataFolder, IsReadFromTheEnvironmentAsBytes) {
     qputenv("HOME", "/home/anna");
     for (const auto& [set, folder] :
          {std::pair("", "/home/anna/.local/share"), std::pair("here", "/home/anna/.local/share"),

@@ -5,19 +5,16 @@
 
 #include "tests/engine/seeded_random.h"
 #include "tests/rules/scripted_random.h"
-#include "tests/rules/small_worlds.h"
-#include "tests/screens/hands.h"
+#include "tests/screens/driver.h"
 
-// Whole games as they are played, by mouse and by keys, on whatever display the test is started on.
+// Whole games by mouse and keys, on any platform plugin; the title screen; the sounds.
 
 namespace vorlund {
 namespace {
 
-const QString Leave =
-    "Question: Closing this game window will end the game.\nAre you sure you want to continue?";
 const QString Terminate = "NoIcon: Closing this window will terminate your new game.\n";
 
-// What the selection screen has to say to a number.
+// Enters a number and returns the selection screen's message.
 QString Select(const QString& number) {
     Type(number + u'\n');
     return Text("frmSelect", "lbl1");
@@ -32,10 +29,9 @@ QString StatusLines() {
     return lines.join(" | ");
 }
 
-void BeginAGame(Sitting& sitting) {
+void BeginGame(Sitting& sitting) {
     EXPECT_EQ(Desktop(), "Vorlund");
-    Click("frm1", "lblPlay");
-    EXPECT_EQ(Desktop(), "Vorlund - New Game");
+    EXPECT_EQ(Click("frm1", "lblPlay"), "Vorlund - New Game");
     Click("frm2", "opt4");
     Click("frm2", "lblCont");
     Click("frm2", "cmp(0)");
@@ -45,7 +41,7 @@ void BeginAGame(Sitting& sitting) {
     EXPECT_FALSE(Control("frm2", "txtN(1)").isEnabled());
     Fill("frm2", "txtN(2)", "cOmP\n");
     EXPECT_EQ(Text("frm2", "lbl1"), "Enter a name for Player 4.");
-    EXPECT_EQ(Beeps(), 2);  // once for Player 1 as well
+    EXPECT_EQ(Beeps(), 2);  // one for Player 1, too
     EXPECT_EQ(Text("frm2", "txtN(4)"), "(not seen)");
     sitting.Expect({Terminate + "Press 'Yes' to exit or 'No' to return.", "n"});
     Close("frm2");
@@ -61,7 +57,7 @@ void BeginAGame(Sitting& sitting) {
     Close("frmSelect");
     EXPECT_EQ(Select("7"), "Player 1 selected Midwest USA\nPlayer 4, Benjamin the, select a territory.");
     EXPECT_EQ(MapFault(sitting.Game()), "");
-    Fill("frmSelect", "txtNum", "180");  // two digits are taken
+    Fill("frmSelect", "txtNum", "180");  // the field takes two digits
     Click("frmSelect", "lblGo");
 }
 
@@ -70,7 +66,7 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
     GameState saved;
     {
         Sitting sitting(std::make_unique<SeededRandom>(7), saves.path());
-        BeginAGame(sitting);
+        BeginGame(sitting);
         EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [] | Vorlund - Upkeep");
         EXPECT_EQ(ReportText(),
                   "Upkeep status for Player 1, Anna.\n"
@@ -79,8 +75,8 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
         Click("frmReport", "lblCont");
         Type("a");  // nobody attacks in their first turn
         EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrutev]");
-        Click("frm3", "lblEndTurn");
-        EXPECT_EQ(Desktop(), "Vorlund - CompPlayer2's turn [] | Computer player CompPlayer2's status");
+        EXPECT_EQ(Click("frm3", "lblEndTurn"),
+                  "Vorlund - CompPlayer2's turn [] | Computer player CompPlayer2's status");
         EXPECT_EQ(ReportText(),
                   "[Player 2] The computer did the following:\n"
                   "Moved forces into Colombian Territory.\nMoved forces into Caribbean.\n");
@@ -89,19 +85,16 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
         EXPECT_EQ(ReportText(),
                   "[Player 3] The computer did the following:\n"
                   "Moved forces into Northern Russia.\nMoved forces into Western Russia.\n");
-        Close("frmReport");
-        EXPECT_EQ(Desktop(), "Vorlund - Benjamin the's turn [] | Vorlund - Upkeep");
+        EXPECT_EQ(Close("frmReport"), "Vorlund - Benjamin the's turn [] | Vorlund - Upkeep");
         EXPECT_TRUE(ReportText().startsWith("[Player 4] Upkeep status for Player 4, Benjamin the."));
         Press(Qt::Key_Enter, Qt::KeypadModifier);
-        Type("E\n");
-        EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrautev]");
+        EXPECT_EQ(Type("E\n"), "Vorlund - Anna's turn [bsrautev]");
 
         Type("b7\t1\t\t3\n");
         EXPECT_EQ(ReportText(),
                   "Details on current transaction:\nYou bought 1 Troops for $10 in Midwest USA.\n"
                   "You bought 3 oil barrels for $1.\n\n        Total spent: $11");
-        Type("\nS7\t2\n\nt");
-        EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [] | Vorlund - Player 1 status");
+        EXPECT_EQ(Type("\nS7\t2\n\nt"), "Vorlund - Anna's turn [] | Vorlund - Player 1 status");
         EXPECT_EQ(StatusLines(),
                   "Anna | $147 | 33 | 9 | 0 | 1 | 0 | 0 | 0 | 0\nDeveloping nuke... | 2 / 2 | + $26");
         Type("\nv My Game");
@@ -116,17 +109,15 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
         Type("\n");
         EXPECT_EQ(QDir(saves.path()).entryList(QDir::Files | QDir::Hidden), QStringList("my game.vrs"));
         saved = sitting.Game();
-        sitting.Expect({Leave, "n"});
+        sitting.Expect({LeaveQuestion, "n"});
         Close("frm3");
-        sitting.Expect({Leave, "y"});
+        sitting.Expect({LeaveQuestion, "y"});
         EXPECT_EQ(sitting.Heard(), "Beep");
-        EXPECT_TRUE(Ends([] { Close("frm3"); }));
+        EXPECT_TRUE(EndsProgram([] { Close("frm3"); }));
     }
     Sitting sitting(std::make_unique<NoLuck>(), saves.path());
-    Click("frm1", "lblLoad");
-    EXPECT_EQ(Desktop(), "Vorlund - Load Game");
-    Type("my\n");
-    EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrautev]");
+    EXPECT_EQ(Click("frm1", "lblLoad"), "Vorlund - Load Game");
+    EXPECT_EQ(Type("my\n"), "Vorlund - Anna's turn [bsrautev]");
     saved.GameLoaded = true;
     EXPECT_TRUE(sitting.Game() == saved);
     EXPECT_EQ(MapFault(saved), "");
@@ -137,7 +128,7 @@ TEST(Game, FromASavedGameToTheEnd) {
     sitting.Resume(NewGame(2, "7 Anna 10/2F; 8 Ben 2/0; 9 Ben 2/0; Anna Money 1000 HasNuke 1"));
     Type("r7\t6\t2\n");
     EXPECT_EQ(Text("frmTransport", "lblA"), "Move to Western USA was successful.");
-    Type("\t1\n");  // the keyboard has stayed in the field for troops
+    Type("\t1\n");  // the focus is still in the field for troops
     EXPECT_FALSE(Control("frmTransport", "lblGo").isEnabled());
     EXPECT_EQ(Beeps(), 0);
     Type("1\n");
@@ -161,15 +152,14 @@ TEST(Game, FromASavedGameToTheEnd) {
               "Your nuclear attack upon Mexico was successful.\n"
               "Casualties for Player 2, Ben:\n        Troops: 1\n        Tanks: 0\n\n");
     EXPECT_EQ(Text("frm3", "lblCntry(8)"), "1/0");
-    Type("\na7\t8\t5\n");
-    EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [bsrautev] | Vorlund - Battle Results");
+    EXPECT_EQ(Type("\na7\t8\t5\n"), "Vorlund - Anna's turn [bsrautev] | Vorlund - Battle Results");
     EXPECT_EQ(ReportText(),
               "The battle was successful... you now have control of Eastern USA.\n"
               "Casualties for attacker (Player 1, Anna):\n        Troops: 1\n        Tanks: 0\n\n"
               "Casualties for defender (Player 2, Ben):\n        Troops: 2\n        Tanks: 0\n\n");
     EXPECT_EQ(MapFault(sitting.Game()), "");
     Type("\na\t\t\t\t9\n");
-    EXPECT_EQ(Beeps(), 1);  // there was one bomb
+    EXPECT_EQ(Beeps(), 1);  // no bomb left
     Fill("frmAttack", "txtC1", "7\t9\t2\n");
     EXPECT_TRUE(ReportText().endsWith("Player 2 is now dead."));
     Type("\na");
@@ -177,18 +167,17 @@ TEST(Game, FromASavedGameToTheEnd) {
     Press(Qt::Key_Escape);
     EXPECT_EQ(Text("frm3", "imgGameOver"), "(not seen)");
     sitting.Expect({"Warning: Player 1, Anna, you win the game!"});
-    Type("e");
-    EXPECT_EQ(Desktop(), "Vorlund - Anna wins []");
+    EXPECT_EQ(Type("e"), "Vorlund - Anna wins []");
     EXPECT_EQ(Control("frm3", "imgGameOver").accessibleName(), "Game over");
     EXPECT_EQ(sitting.Heard(), "Beep Explode Gun Gun");
-    EXPECT_TRUE(Ends([] { Close("frm3"); }));
+    EXPECT_TRUE(EndsProgram([] { Close("frm3"); }));
 }
 
-TEST(Game, TheTitleFollowsThePointer) {
+TEST(Game, TheTitleIsDraggedByTheLeftButton) {
     Sitting sitting;
     QWidget& title = Window("frm1");
     if (QGuiApplication::platformName() == "wayland" || title.windowHandle()->startSystemMove()) {
-        GTEST_SKIP() << "here the desktop alone moves windows";
+        GTEST_SKIP() << "the window manager moves the windows";
     }
     const QPoint before = title.pos();
     for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
@@ -203,20 +192,20 @@ TEST(Game, TheTitleFollowsThePointer) {
     QTest::mouseRelease(title.windowHandle(), Qt::LeftButton, {}, {10, 10});
     QTest::mouseMove(title.windowHandle(), {50, 50});
     EXPECT_EQ(title.pos() - before, QPoint(30, 20));
-    EXPECT_TRUE(Ends([] { Close("frm1"); }));
+    EXPECT_TRUE(EndsProgram([] { Close("frm1"); }));
 }
 
-TEST(Recordings, TheMusicOnceAndAClickForEveryCommandOfTheTitle) {
+TEST(Sounds, TheMusicOnceAndAClickForEachCommandOfTheTitle) {
     Sitting sitting;
     const SoundRecorder& recorded = sitting.Recorded();
-    Click("frm1", "lblLoad");  // the timers of the hidden title go on
+    Click("frm1", "lblLoad");  // the timers of the hidden title continue
     EXPECT_EQ(sitting.Heard(), "Beep");
     EXPECT_TRUE(QTest::qWaitFor([&] { return recorded.Music == 1; }));
     Click("frmLoad", "lblGo(2)");
     QTest::qWait(300);
     EXPECT_EQ(recorded.Music, 1);
     EXPECT_EQ(sitting.Heard(), "Beep");
-    EXPECT_TRUE(Ends([] { Click("frm1", "lblExit"); }));
+    EXPECT_TRUE(EndsProgram([] { Click("frm1", "lblExit"); }));
     EXPECT_EQ(sitting.Heard(), "Beep Beep");
     Sitting left;
     Click("frm1", "lblPlay");
@@ -226,11 +215,10 @@ TEST(Recordings, TheMusicOnceAndAClickForEveryCommandOfTheTitle) {
     EXPECT_EQ(left.Heard(), "Beep");
 }
 
-// Numbers on the map in the moment in which a recording starts.
-TEST(Recordings, GunfireAndExplosionBeforeTheMapIsRedrawn) {
+TEST(Sounds, GunfireAndExplosionBeforeTheMapIsRedrawn) {
     Sitting sitting;
     sitting.Resume(NewGame(3, "7 Anna 30/1; 8 Ben 8/0; 6 Ben 1/0; 36 Cleo 5/0; Anna HasNuke 1"));
-    QStringList seen;
+    QStringList seen;  // on the map when a sound starts
     sitting.Recorded().WhenPlayed = [&] {
         seen << Text("frm3", "lblCntry(6)") + ' ' + Text("frm3", "lblCntry(7)");
     };
@@ -242,7 +230,7 @@ TEST(Recordings, GunfireAndExplosionBeforeTheMapIsRedrawn) {
     EXPECT_EQ(sitting.Heard(), "Beep Explode Gun");
 }
 
-TEST(Recordings, NoneForRefusalsAndForWhatComputersDo) {
+TEST(Sounds, NoneForRefusalsAndComputers) {
     Sitting sitting(std::make_unique<SeededRandom>(3));
     sitting.Resume(NewGame(3,
                            "7 Anna 1/0; 15 Anna 90/0; 8 Ben 99/0; 36 Cleo 5/0; Anna HasNuke 1; "

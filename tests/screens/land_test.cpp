@@ -9,7 +9,7 @@
 #include "ui/windows/owner_map.h"
 #include "ui/windows/territory_rims.h"
 
-// The land as it is painted on the board's map, in the colours of those who hold it, and the rims on it.
+// The land painted by OwnerMap, and the rims of territories on it.
 
 namespace vorlund {
 
@@ -53,8 +53,8 @@ OwnerMap::Owners All(int owner) {
     return owners;
 }
 
-/// The middling red, green and blue of all land.
-QRgb ColourOfLand(const Land& land) {
+/// The median colour of all land.
+QRgb MedianColour(const Land& land) {
     std::array<std::vector<int>, 3> parts;
     for (int i = 0; i < Board.width() * Board.height(); i += 5) {
         const QPoint place(i % Board.width(), i / Board.width());
@@ -72,23 +72,24 @@ QRgb ColourOfLand(const Land& land) {
                 parts[2].at(parts[2].size() / 2));
 }
 
-TEST(Land, OwnersAreToldApartByEveryEye) {
+TEST(Land, OwnerColoursDifferForEachColourVision) {
     std::vector<QRgb> colours;
     for (int owner = 0; owner <= OwnerMap::Nobody; ++owner) {
         Land land;
         land.Show(All(owner));
-        colours.push_back(ColourOfLand(land));
+        colours.push_back(MedianColour(land));
     }
-    for (const auto& [name, eye] : Eyes()) {
+    for (const auto& [name, vision] : ColourVisions()) {
         for (std::size_t a = 0; a < colours.size(); ++a) {
             for (std::size_t b = 0; b < a; ++b) {
-                EXPECT_GE(Apart(colours[a], colours[b], eye), 20) << name << ", owners " << a << " and " << b;
+                EXPECT_GE(LabDistance(colours[a], colours[b], vision), 20)
+                    << name << ", owners " << a << " and " << b;
             }
         }
     }
 }
 
-TEST(Land, OnlyWhatChangesIsPaintedAnewAndAsIfAllWere) {
+TEST(Land, APartialRepaintEqualsAFullOneAndStaysInTheReportedRegion) {
     std::mt19937 chance(7);
     for (const qreal ratio : {1.0, 1.25, 1.5, 1.875, 2.0}) {
         Land land(ratio);
@@ -103,18 +104,18 @@ TEST(Land, OnlyWhatChangesIsPaintedAnewAndAsIfAllWere) {
             Land whole(ratio);
             whole.Show(owners);
             EXPECT_EQ(land.Seen, whole.Seen) << "at " << ratio << " after " << changes << " changes";
-            QImage untold = land.Seen;  // but for what was told to have changed
-            QPainter painter(&untold);
+            QImage outside = land.Seen;  // of the reported region
+            QPainter painter(&outside);
             painter.setClipRegion(changed);
             painter.drawImage(0, 0, before);
             painter.end();
-            EXPECT_EQ(untold, before) << "at " << ratio << " after " << changes << " changes";
+            EXPECT_EQ(outside, before) << "at " << ratio << " after " << changes << " changes";
         }
     }
 }
 
-TEST(Land, AFrontIsADarkLineBetweenTheColoursOfBothSides) {
-    constexpr int x = 110;  // south of 2 lies 7: a level border
+TEST(Land, FrontsAreDarkLinesWithColouredEdges) {
+    constexpr int x = 110;  // where the border of 2 and 7 is horizontal
     Land land;
     int y = 80;
     while (land.Territories.At(QPointF(x, y)) == 1) {
@@ -134,7 +135,8 @@ TEST(Land, AFrontIsADarkLineBetweenTheColoursOfBothSides) {
                       land.Seen.pixel(x, line + 2)};
     };
     const auto fromEdge = [](QRgb seen, int owner) {
-        return Apart(seen, OwnersColours[static_cast<std::size_t>(owner)].Edge, Eyes()[0].second);
+        return LabDistance(seen, OwnersColours[static_cast<std::size_t>(owner)].Edge,
+                           ColourVisions()[0].second);
     };
     for (int owner = 0; owner < MaxPlayers; ++owner) {
         const int other = (owner + 1) % MaxPlayers;

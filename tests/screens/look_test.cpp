@@ -3,11 +3,11 @@
 #include <QTest>
 #include <QWindow>
 
-#include "tests/rules/small_worlds.h"
 #include "tests/screens/colours.h"
-#include "tests/screens/hands.h"
+#include "tests/screens/driver.h"
 
-// Every screen as it looks, with the family of fonts, at the scale and the zoom that the environment has.
+// The painted pixels of every screen: contrast, overlaps and clipping, with the font family, device pixel
+// ratio and zoom that the environment sets.
 
 namespace vorlund {
 namespace {
@@ -17,12 +17,11 @@ int Distance(QRgb one, QRgb other) {
            std::abs(qBlue(one) - qBlue(other));
 }
 
-// The letters of a widget where it stands in its window.
+// The painted text of a widget, with its background in the window.
 struct Letters {
-    QRect Ink;      // in pixels of the screen
-    int Exact = 0;  // how many of them have just the colour
-    double Worst =
-        21;  // the colour's contrast with what lies right behind the letters, their faint fringe left out
+    QRect Ink;          ///< bounds in device pixels
+    int Exact = 0;      ///< pixels of exactly the text's colour
+    double Worst = 21;  ///< lowest contrast with the pixel behind, except at antialiased edges
 };
 
 Letters LettersOf(QWidget& widget, QRgb colour) {
@@ -52,7 +51,7 @@ QPoint MiddleOf(const QWidget& widget) {
     return widget.mapTo(widget.window(), widget.rect().center());
 }
 
-// "rest", "hover" or "pressed", as the command is written; "grey" in none of these colours.
+// "rest", "hover" or "pressed" by the colour of the command's text; "grey" if it is none of these.
 QString StateOf(const QString& window, const QString& command) {
     const std::vector<std::pair<QRgb, QString>> states{
         {colour::Rest, "rest"}, {colour::Hover, "hover"}, {colour::Pressed, "pressed"}};
@@ -64,7 +63,7 @@ QString StateOf(const QString& window, const QString& command) {
     return "grey";
 }
 
-// Looks at a command at rest, under the pointer and pressed.
+// Checks a command at rest, under the pointer and pressed.
 void ExpectLegible(const QString& window, CommandLabel& command) {
     QWindow* handle = Window(window).windowHandle();
     for (const QRgb colour : {colour::Rest, colour::Hover, colour::Pressed}) {
@@ -79,10 +78,11 @@ void ExpectLegible(const QString& window, CommandLabel& command) {
             << command.objectName().toStdString() << " has a contrast of " << letters.Worst;
     }
     QTest::mouseMove(handle, QPoint(2, 2));
-    QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(2, 2));  // off the command: it does not run
+    QTest::mouseRelease(handle, Qt::LeftButton, {},
+                        QPoint(2, 2));  // outside the command, so that it does not run
 }
 
-// A text is written whole and readable; returns the place of its ink.
+// Checks that a text is not clipped and has contrast; returns the bounds of its ink.
 QRect ExpectLegible(TextLabel& label) {
     const int flags = int(label.alignment()) | (label.wordWrap() ? Qt::TextWordWrap : 0);
     const QRect needed = label.fontMetrics().boundingRect(label.rect(), flags, label.text());
@@ -95,7 +95,7 @@ QRect ExpectLegible(TextLabel& label) {
             (QSizeF(letters.Ink.size()) / ratio).toSize()};
 }
 
-// The windows are opened at zoom 1 and follow a change to the one that is looked at.
+// Sets the zoom of the test after the windows were opened at 1.
 class Zoomer {
 public:
     Zoomer() { Zoom::OfApplication().Set(qEnvironmentVariable("VORLUND_ZOOM", "1").toDouble()); }
@@ -104,7 +104,7 @@ public:
     Zoomer& operator=(const Zoomer&) = delete;
 };
 
-// Nothing on the screen is cut off, faint, over something else or outside the window.
+// Checks that nothing in the window is clipped, of low contrast, overlapping or outside of it.
 void ExpectLegible(const QString& name) {
     SCOPED_TRACE(name.toStdString());
     QWidget& window = Window(name);
@@ -148,7 +148,7 @@ void ExpectLegible(const QString& name) {
 
 const QString WideName(12, 'W');
 
-// Five players with the widest names hold all the world, every territory with the longest count.
+// Five players with the widest names own the world, every territory with the longest count.
 GameState FullBoard() {
     GameState game = NewGame(5);
     for (int p = 0; p < 5; ++p) {
@@ -156,7 +156,7 @@ GameState FullBoard() {
         game.PlayerAt(p).Money = 32000;
     }
     for (int t = 0; t < NumTerritories; ++t) {
-        const bool battlefield = t == 18;  // one that falls to its neighbour
+        const bool battlefield = t == 18;  // which its neighbour can conquer
         const int owner = battlefield ? 1 : t == 27 || t % 5 == 1 ? 0 : t % 5;
         Give(game, t, owner, battlefield ? 1 : 999, battlefield ? 0 : 99);
         game.TerritoryAt(t).HasDefense = t % 2 == 0;
@@ -165,7 +165,7 @@ GameState FullBoard() {
     return game;
 }
 
-TEST(Look, TheFontsAreThoseMeant) {
+TEST(Look, TheFontsAreThoseOfTheEnvironment) {
     for (const Face face :
          {Face::Caption, Face::Status, Face::Heading, Face::Command, Face::Field, Face::Count}) {
         const QString family = QFontInfo(FontOf(face)).family();
@@ -219,7 +219,7 @@ TEST(Look, TheBoardItsDialogsAndReportsAreLegible) {
     }
 }
 
-TEST(Look, CountsAreLegibleAndStandApart) {
+TEST(Look, CountsAreLegibleAndDoNotOverlap) {
     Sitting sitting;
     sitting.Resume(FullBoard());
     QWidget& board = Window("frm3");
@@ -244,20 +244,20 @@ TEST(Look, CountsAreLegibleAndStandApart) {
     }
 }
 
-TEST(Look, CommandsAreLitUnderThePointer) {
+TEST(Look, HoverColoursOfCommands) {
     Sitting sitting;
     const auto seen = [](const QString& window, const char* pointed, const char* command) {
         PointAt(window, MiddleOf(Control(window, pointed)));
         return StateOf(window, command);
     };
     EXPECT_EQ(seen("frm1", "lblPlay", "lblPlay"), "hover");
-    EXPECT_EQ(seen("frm1", "lblLoad", "lblPlay"), "rest");  // one at a time
+    EXPECT_EQ(seen("frm1", "lblLoad", "lblPlay"), "rest");  // only one at a time
     sitting.Resume(FullBoard());
     EXPECT_EQ(seen("frm3", "lblBuy", "lblBuy"), "hover");
-    EXPECT_EQ(seen("frm3", "lblSell", "lblBuy"), "hover");  // here each of them until the pointer has gone
+    EXPECT_EQ(seen("frm3", "lblSell", "lblBuy"), "hover");  // each until the pointer leaves
     Type("a");
     EXPECT_EQ(StateOf("frm3", "lblBuy"), "grey");
-    EXPECT_EQ(seen("frmAttack", "lblStrike", "lblStrike"), "grey");  // there is no bomb
+    EXPECT_EQ(seen("frmAttack", "lblStrike", "lblStrike"), "grey");  // no bomb
     Type("\033");
     EXPECT_EQ(StateOf("frm3", "lblBuy"), "rest");
     Type("u");
@@ -270,7 +270,7 @@ TEST(Look, CommandsAreLitUnderThePointer) {
     EXPECT_EQ(seen("frmReport", "lbl2", "lblCont"), "rest");
 }
 
-TEST(Look, KeysZoomEveryWindowAtOnce) {
+TEST(Look, KeysZoomAllWindows) {
     Sitting sitting;
     sitting.Resume(FullBoard());
     Type("r");
@@ -290,12 +290,12 @@ TEST(Look, KeysZoomEveryWindowAtOnce) {
     const auto starts = [](QSize room, bool scaled) { return StartingZoom({750, 525}, room, scaled); };
     EXPECT_EQ(starts({2560, 1400}, false), 2.0);
     EXPECT_EQ(starts({2560, 1400}, true), 1.0);
-    EXPECT_EQ(starts({1920, 1080}, false), 1.5);  // the title bar would not fit at 2
+    EXPECT_EQ(starts({1920, 1080}, false), 1.5);  // at 2 the title bar would not fit
     EXPECT_EQ(starts({1500, 1200}, false), 1.0);
     EXPECT_EQ(starts({1600, 1050}, false), 1.0);
 }
 
-TEST(Look, PicturesAreSharpAtEveryScale) {
+TEST(Look, PicturesHaveDeviceResolution) {
     for (const auto& [name, size] : {std::pair("map", QSize(750, 525)), {"marker4", {10, 10}}}) {
         for (const qreal ratio : {1.0, 1.25, 1.5, 2.0}) {
             EXPECT_EQ(LoadPicture(name, 1.0, ratio).size(), (QSizeF(size) * ratio).toSize()) << name << ratio;

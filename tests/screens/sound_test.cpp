@@ -19,9 +19,9 @@
 namespace vorlund {
 namespace {
 
-constexpr std::size_t HalfSecond = 11025;
+constexpr std::size_t HalfSecond = 11025;  ///< in samples
 
-// Newer releases of the sound library open no device below 44,100 a second in stereo.
+// Newer releases of SDL open the device at 44,100 Hz in stereo.
 bool IsStereo(const std::vector<int>& samples) {
     bool same = true;
     for (std::size_t i = 0; i + 1 < samples.size(); i += 2) {
@@ -30,8 +30,8 @@ bool IsStereo(const std::vector<int>& samples) {
     return same;
 }
 
-// Samples of 16 bits, 22,050 a second, from byte `start` on, without the silence before them; none if there
-// is no such file.
+// The 16-bit samples at 22,050 Hz from byte `start` of the file on, without leading silence; none if there is
+// no file.
 std::vector<int> Samples(const QString& path, qint64 start = 0) {
     QFile file(path);
     const QByteArray bytes =
@@ -54,13 +54,13 @@ int Loudest(const std::vector<int>& samples) {
     return samples.empty() ? 0 : std::max(-*low, *high);
 }
 
-// How long the sound is without the silence behind it.
+// The count of samples without trailing silence.
 double Length(const std::vector<int>& samples) {
     return double(samples.rend() -
                   std::find_if(samples.rbegin(), samples.rend(), [](int x) { return x != 0; }));
 }
 
-// A device that writes what is played to a file.
+// With SDL's disk driver, which writes the samples to a file.
 class SoundPlayerTest : public testing::Test {
 protected:
     SoundPlayerTest() {
@@ -68,7 +68,7 @@ protected:
         qputenv("SDL_DISKAUDIOFILE", output_.toLocal8Bit());
     }
 
-    // From where it stops being the music from its beginning without a gap.
+    // What follows the part of the output that equals the beginning of the music.
     std::vector<int> HeardAfterMusic() const {
         const std::vector<int> heard = Samples(output_);
         const auto music = Samples(":/sound/vrl1.wav", 44);
@@ -79,9 +79,8 @@ protected:
     QString output_ = folder_.filePath("output.raw");
 };
 
-TEST_F(SoundPlayerTest, EveryRecordingIsHeardInItsLength) {
-    // Samples at 22,050 a second of the click, of the gunfire, which is coded in four bits, and of the
-    // explosion
+TEST_F(SoundPlayerTest, RecordingsHaveTheirLength) {
+    // In samples at 22,050 Hz; the gunfire is ADPCM
     const std::vector<std::pair<Wave, std::size_t>> rows{
         {Wave::Beep, 2039}, {Wave::Gun, 47002}, {Wave::Explode, 60378}};
     for (const auto& [wave, length] : rows) {
@@ -111,10 +110,10 @@ TEST_F(SoundPlayerTest, TheClickCutsOffTheMusic) {
         QTest::qWait(200);
         return QFile(output_).size() == before;
     };
-    EXPECT_TRUE(QTest::qWaitFor(isClosed)) << "a silent game holds no device";
+    EXPECT_TRUE(QTest::qWaitFor(isClosed)) << "the device is closed after the last sample";
 }
 
-TEST_F(SoundPlayerTest, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
+TEST_F(SoundPlayerTest, TheDestructorWaitsForTheClickOnly) {
     SoundPlayer(SOUND_MODULE).PlayWave(Wave::Beep);
     EXPECT_NEAR(Length(Samples(output_)), 2039, 10);
     {
@@ -125,39 +124,40 @@ TEST_F(SoundPlayerTest, TheEndLetsTheClickFinishAndCutsOffAnythingElse) {
     EXPECT_LT(Samples(output_).size(), 3 * HalfSecond);
 }
 
-TEST_F(SoundPlayerTest, NothingIsPrintedWhereNothingCanBePlayed) {
+TEST_F(SoundPlayerTest, ErrorsAreNotPrinted) {
     SilenceSoundServerLogs();
     qputenv("AUDIODEV", "no-such-card");
-    qputenv("PULSE_RUNTIME_PATH", "/proc/none");  // a folder that the server's library fails to make
+    qputenv("PULSE_RUNTIME_PATH", "/proc/none");  // where PulseAudio's client library cannot make its folder
     for (const char* driver : {"gramophone", "dummy", "pulseaudio", "alsa", ""}) {
         qputenv("SDL_AUDIODRIVER", driver);
         testing::internal::CaptureStderr();
         {
             SoundPlayer sounds(*driver == '\0' ? "/no/module" : SOUND_MODULE);
             sounds.PlayWave(Wave::Gun);
-            QTest::qWait(300);  // nothing shows that an attempt has failed
+            QTest::qWait(300);  // a failed attempt emits no event
             sounds.PlayWave(Wave::Beep);
         }
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << driver;
     }
 }
 
-TEST_F(SoundPlayerTest, WithoutAThreadTheGameIsSilent) {
+TEST_F(SoundPlayerTest, AFailedThreadStartIsTriedAgain) {
     SoundPlayer sounds(SOUND_MODULE);
     pthread_attr_t usual;
     pthread_attr_t huge;
     ASSERT_EQ(pthread_getattr_default_np(&usual) + pthread_getattr_default_np(&huge), 0);
     ASSERT_EQ(pthread_attr_setstacksize(&huge, std::size_t{1} << 47),
-              0);  // a stack for which there is no room
+              0);  // more than the address space
     ASSERT_EQ(pthread_setattr_default_np(&huge), 0);
     EXPECT_NO_THROW(sounds.PlayWave(Wave::Gun));
     ASSERT_EQ(pthread_setattr_default_np(&usual), 0);
     EXPECT_FALSE(QFile::exists(output_));
     sounds.PlayWave(Wave::Beep);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !Samples(output_).empty(); })) << "threads are back";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Samples(output_).empty(); }))
+        << "once threads can be started again";
 }
 
-TEST_F(SoundPlayerTest, ADeviceThatHangsDelaysNobody) {
+TEST_F(SoundPlayerTest, ADeviceThatHangsDoesNotBlock) {
     ASSERT_EQ(mkfifo(qPrintable(output_), 0600), 0);
     QElapsedTimer time;
     time.start();
@@ -168,7 +168,7 @@ TEST_F(SoundPlayerTest, ADeviceThatHangsDelaysNobody) {
         sounds.PlayWave(Wave::Beep);
     }
     EXPECT_LT(time.elapsed(), 3000);
-    // Opening the other end lets the device go on, and shows that it was waiting.
+    // Opening the other end of the pipe unblocks the device, which shows that it was blocked.
     pollfd reader{open(qPrintable(output_), O_RDONLY | O_NONBLOCK), POLLIN, 0};
     EXPECT_EQ(poll(&reader, 1, 5000), 1);
     for (char sample = 0; poll(&reader, 1, 5000) == 1 && read(reader.fd, &sample, 1) != 0;) {

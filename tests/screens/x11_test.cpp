@@ -1,24 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTest>
 #include <QWindow>
 
 #include "tests/engine/seeded_random.h"
-#include "tests/rules/small_worlds.h"
-#include "tests/screens/hands.h"
+#include "tests/screens/driver.h"
 
-// What only a real X server and a window manager do: repeats of held keys, modifiers, double clicks whose
-// halves hit two windows, the frames of windows and their close buttons, icons.
+// What needs an X server and a window manager: its key repeats and modifiers, double clicks over two windows,
+// window frames, close buttons and icons.
 
 namespace vorlund {
 namespace {
 
-const QString AnnasTurn = "Vorlund - Anna's turn [bsrautev]";
-
-const GameState Neighbours = NewGame(3, "7 Anna 10/1F; 8 Ben 2/0; 36 Cleo 5/0; Anna Money 1000");
-
-/// Runs a program to its end while the windows go on; returns what it printed.
+/// Runs a program to its end while the event loop goes on; returns what it printed.
 QString Output(const QString& program, const QString& arguments) {
     QProcess process;
     process.start(program, arguments.split(' '));
@@ -27,20 +21,26 @@ QString Output(const QString& program, const QString& arguments) {
     return QString::fromLocal8Bit(process.readAllStandardOutput());
 }
 
-void Keys(const QString& commands) {
-    Keyboard();
+QString Keys(const QString& commands) {
+    FrontWindow();
     Output("xdotool", commands);
     QTest::qWait(200);
+    return Desktop();
 }
 
 /// Holds a key for longer than it takes to repeat.
-void Hold(const QString& key) {
-    Keys("keydown " + key + " sleep 2 keyup " + key);
+QString Hold(const QString& key) {
+    return Keys("keydown " + key + " sleep 2 keyup " + key);
 }
 
-void Mouse(QPoint place, const QString& commands) {
+QString Mouse(QPoint place, const QString& commands) {
     Output("xdotool", QString("mousemove %1 %2 %3").arg(place.x()).arg(place.y()).arg(commands));
     QTest::qWait(200);
+    return Desktop();
+}
+
+QString ClickCloseButton(const QString& window) {
+    return Mouse(Window(window).frameGeometry().topRight() + QPoint(-12, 12), "click 1");
 }
 
 QPoint On(const QString& window, const QString& control) {
@@ -48,63 +48,56 @@ QPoint On(const QString& window, const QString& control) {
     return target.mapToGlobal(target.rect().center());
 }
 
-TEST(OnX, AKeyThatIsHeldActsOnce) {
-    Sitting sitting;
-    sitting.Resume(Neighbours);
-    Hold("v");
-    EXPECT_EQ(Text("frmSave", "txtSave"), "");
-    Hold("x");
-    EXPECT_GT(Text("frmSave", "txtSave").size(), 3);
-    Hold("Escape");
-    EXPECT_EQ(Desktop(), AnnasTurn);
-    Type("u");
-    Keys("keydown alt keydown 1 sleep 1.2 keyup 1 keyup alt");
-    EXPECT_EQ(sitting.Game().PlayerAt(0).EconomyLevel, 1);
-}
-
-TEST(OnX, AHeldEnterReadsOneReport) {
+TEST(OnX, AHeldKeyActsOnce) {
+    {
+        Sitting sitting;
+        sitting.Resume(ThreePlayers);
+        Hold("v");
+        EXPECT_EQ(Text("frmSave", "txtSave"), "");
+        Hold("x");
+        EXPECT_GT(Text("frmSave", "txtSave").size(), 3);
+        EXPECT_EQ(Hold("Escape"), AnnasTurn);
+        Type("u");
+        Keys("keydown alt keydown 1 sleep 1.2 keyup 1 keyup alt");
+        EXPECT_EQ(sitting.Game().PlayerAt(0).EconomyLevel, 1);
+    }
     Sitting sitting(std::make_unique<SeededRandom>(3));
     sitting.Resume(
         NewGame(5,
                 "7 Anna 10/1; 16 Ben 2/0; 36 Cleo 5/0; 40 Dora 5/0; 14 Emil 3/0; Ben IsComputer 1; "
                 "Cleo IsComputer 1; Dora IsComputer 1; Emil IsComputer 1"));
-    Type("e");
-    EXPECT_EQ(Desktop(), "Vorlund - Ben's turn [] | Computer player Ben's status");
-    Hold("Return");
-    EXPECT_EQ(Desktop(), "Vorlund - Cleo's turn [] | Computer player Cleo's status");
+    EXPECT_EQ(Type("e"), "Vorlund - Ben's turn [] | Computer player Ben's status");
+    EXPECT_EQ(Hold("Return"), "Vorlund - Cleo's turn [] | Computer player Cleo's status");
 }
 
-TEST(OnX, ALetterRunsItsCommandWithNoModifierButShift) {
+TEST(OnX, LettersRunCommandsWithoutModifiersOrWithShift) {
     Sitting sitting;
-    sitting.Resume(Neighbours);
-    for (const char* modifier : {"super", "alt", "ctrl", "ISO_Level3_Shift"}) {
-        Keys(QString("key %1+b").arg(QLatin1String(modifier)));
-        EXPECT_EQ(Desktop(), AnnasTurn) << modifier;
+    sitting.Resume(ThreePlayers);
+    for (const QString modifier : {"super", "alt", "ctrl", "ISO_Level3_Shift"}) {
+        EXPECT_EQ(Keys("key " + modifier + "+b"), AnnasTurn) << modifier.toStdString();
     }
-    Keys("key shift+b");
-    EXPECT_EQ(Desktop(), "Vorlund - Anna's turn [] | Vorlund - Buy");
+    EXPECT_EQ(Keys("key shift+b"), AnnasDisabledBoard + "Vorlund - Buy");
 }
 
 TEST(OnX, ADoubleClickOnBuyDoesNotEndTheTurn) {
     Sitting sitting;
-    sitting.Resume(Neighbours);
+    sitting.Resume(ThreePlayers);
     Type("b7\t1");
     QWidget& dialog = Window("frmBuy");
     dialog.move(dialog.pos() + On("frm3", "lblEndTurn") - On("frmBuy", "lblGo"));
     EXPECT_TRUE(QTest::qWaitFor([] { return On("frmBuy", "lblGo") == On("frm3", "lblEndTurn"); }));
-    Mouse(On("frmBuy", "lblGo"), "click --repeat 2 --delay 150 1");
-    EXPECT_EQ(Desktop(), AnnasTurn + " | Vorlund - Buy");
+    EXPECT_EQ(Mouse(On("frmBuy", "lblGo"), "click --repeat 2 --delay 150 1"), AnnasTurn + " | Vorlund - Buy");
     EXPECT_EQ(sitting.Game().PlayerAt(0).Money, 990);
-    Mouse(On("frm3", "lblEndTurn"), "sleep 0.6 click 1");
-    EXPECT_EQ(Desktop(), "Vorlund - Ben's turn [] | Vorlund - Upkeep");
+    EXPECT_EQ(Mouse(On("frm3", "lblEndTurn"), "sleep 0.6 click 1"),
+              "Vorlund - Ben's turn [] | Vorlund - Upkeep");
 }
 
-TEST(OnX, EveryReportComesToTheSamePlaceOverTheBoard) {
+TEST(OnX, EachReportIsPlacedOverTheBoard) {
     Sitting sitting;
-    sitting.Resume(Neighbours);
-    Keyboard();
+    sitting.Resume(ThreePlayers);
+    FrontWindow();
     QTest::qWait(300);  // until the board has its frame
-    for (int report = 0; report < 4; ++report) {
+    for (int report = 0; report < 3; ++report) {
         Type("b7\t1\n");
         QTest::qWait(300);
         const QRect board = Window("frm3").geometry();
@@ -115,23 +108,20 @@ TEST(OnX, EveryReportComesToTheSamePlaceOverTheBoard) {
     }
 }
 
-TEST(OnX, TheWindowManagerClosesNothingWhileAWinnerIsAnnounced) {
+TEST(OnX, CloseButtonsDoNothingWhileAWinnerIsAnnounced) {
     Sitting sitting(std::make_unique<SeededRandom>(3));
     sitting.Resume(NewGame(
         3, "27 Anna 1/0; 35 Ben 1/0; 26 Cleo 100/0; 34 Cleo 300/0; Ben IsComputer 1; Cleo IsComputer 1"));
     sitting.Expect({"Warning: Player 3, Cleo, wins the game!", "\n", [] {
-                        for (const char* window : {"frm3", "frmReport"}) {
-                            Mouse(Window(window).frameGeometry().topRight() + QPoint(-12, 12), "click 1");
-                        }
+                        ClickCloseButton("frm3");
+                        ClickCloseButton("frmReport");
                         EXPECT_TRUE(ReportText().endsWith(" is now dead.\n"));
                     }});
-    Type("e\n");
-    EXPECT_EQ(Desktop(), "Vorlund - Cleo wins [] | Computer player Cleo's status");
-    Mouse(Window("frmReport").frameGeometry().topRight() + QPoint(-12, 12), "click 1");
-    EXPECT_EQ(Desktop(), "Vorlund - Cleo wins []");
+    EXPECT_EQ(Type("e\n"), "Vorlund - Cleo wins [] | Computer player Cleo's status");
+    EXPECT_EQ(ClickCloseButton("frmReport"), "Vorlund - Cleo wins []");
 }
 
-TEST(OnX, TheProgramsWindowsCarryItsIcon) {
+TEST(OnX, WindowsHaveTheIcon) {
     QProcess program;
     program.start(VORLUND_PROGRAM, {});
     const QString window = Output("xdotool", "search --sync --onlyvisible --name ^Vorlund$").trimmed();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/screens/hands.h"
+#include "tests/screens/driver.h"
 
 #include <QApplication>
 #include <QMetaEnum>
@@ -11,17 +11,17 @@
 namespace {
 
 int beeps = 0;
-QList<QPointer<QWidget>> opened;  // windows and message boxes, the latest last
+QList<QPointer<QWidget>> opened;  ///< screens and message boxes, the last opened at the end
 
 }  // namespace
 
-// Stands in for the toolkit's own, which cannot be heard.
+// Replaces the toolkit's function at link time.
 void QApplication::beep() {
     ++beeps;
 }
 
 int main(int count, char** arguments) {
-    // Wayland's input method takes a seat for granted, which a display without hands has not.
+    // The Wayland input method fails on a display without a seat.
     qputenv("QT_IM_MODULE", "compose");
     testing::InitGoogleTest(&count, arguments);
     const QApplication application(count, arguments);
@@ -32,7 +32,7 @@ int main(int count, char** arguments) {
 namespace vorlund {
 namespace {
 
-int patience = 2000;  // milliseconds
+int focusTimeout = 2000;  ///< milliseconds
 
 const QList<QPointer<QWidget>>& Opened() {
     opened.removeIf([](const QPointer<QWidget>& window) { return window.isNull() || !window->isVisible(); });
@@ -41,19 +41,19 @@ const QList<QPointer<QWidget>>& Opened() {
 
 }  // namespace
 
-QWindow& Keyboard() {
+QWindow& FrontWindow() {
     QCoreApplication::processEvents();
     QWidget& front = *Opened().back();
-    const auto hasIt = [&] { return QGuiApplication::focusWindow() == front.windowHandle(); };
-    if (!QTest::qWaitFor(hasIt, patience / 4)) {
-        // Keys that the X server has not seen tell the window manager nothing of whom a new window is for.
+    const auto hasFocus = [&] { return QGuiApplication::focusWindow() == front.windowHandle(); };
+    if (!QTest::qWaitFor(hasFocus, focusTimeout / 4)) {
+        // Synthetic keys have no X time stamp, without which a window manager may not focus a new window.
         front.activateWindow();
     }
-    if (!QTest::qWaitFor(hasIt, patience)) {
-        // A Wayland display without a seat never gives it to anybody.
+    if (!QTest::qWaitFor(hasFocus, focusTimeout)) {
+        // A Wayland display without a seat has no focus.
         const bool noSeat = QGuiApplication::platformName() == "wayland";
-        EXPECT_TRUE(noSeat) << front.windowTitle().toStdString() << " does not have the keyboard";
-        patience = noSeat ? 0 : patience;
+        EXPECT_TRUE(noSeat) << front.windowTitle().toStdString() << " does not have the focus";
+        focusTimeout = noSeat ? 0 : focusTimeout;
     }
     return *front.windowHandle();
 }
@@ -79,7 +79,7 @@ Sitting::Sitting(std::unique_ptr<Random> chance, const QString& saves)
 
 Sitting::~Sitting() {
     for (const Box& box : expected_) {
-        ADD_FAILURE() << "a message box that never came: " << box.Text.toStdString();
+        ADD_FAILURE() << "a message box did not open: " << box.Text.toStdString();
     }
 }
 
@@ -104,7 +104,7 @@ bool Sitting::eventFilter(QObject* watched, QEvent* event) {
         QMetaObject::invokeMethod(
             box, [this, box] { Answer(*box); }, Qt::QueuedConnection);
     } else if (box != nullptr && event->type() == QEvent::Hide) {
-        // A desktop gives the keyboard back to the window behind the box; there may be none here to do it.
+        // Without a window manager nobody activates the window below the box.
         QMetaObject::invokeMethod(
             qApp,
             [] {
@@ -172,7 +172,7 @@ QWidget& Window(const QString& name) {
 QWidget& Control(const QString& window, const QString& control) {
     QWidget& place = Window(window);
     for (QWidget* child : place.findChildren<QWidget*>(control)) {
-        if (child->window() == &place) {  // not one of a dialog that belongs to the window
+        if (child->window() == &place) {  // not in a child window
             return *child;
         }
     }
@@ -226,38 +226,38 @@ int Beeps() {
     return std::exchange(beeps, 0);
 }
 
-void Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    QTest::keyClick(&Keyboard(), key, modifiers);
-    QCoreApplication::processEvents();
+QString Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&FrontWindow(), key, modifiers);
+    return Desktop();
 }
 
-void Type(const QString& keys) {
+QString Type(const QString& keys) {
     static const QMap<QChar, Qt::Key> named{
         {'\n', Qt::Key_Return}, {'\t', Qt::Key_Tab}, {'\033', Qt::Key_Escape}};
     for (const QChar key : keys) {
         if (named.contains(key)) {
             Press(named[key]);
         } else {
-            QTest::keyClick(&Keyboard(), key.toLatin1());
+            QTest::keyClick(&FrontWindow(), key.toLatin1());
         }
     }
-    QCoreApplication::processEvents();
+    return Desktop();
 }
 
-void Click(const QString& window, QPoint place) {
+QString Click(const QString& window, QPoint place) {
     QTest::mouseClick(Window(window).windowHandle(), Qt::LeftButton, {}, place);
-    QCoreApplication::processEvents();
+    return Desktop();
 }
 
-void Click(const QString& window, const QString& control) {
+QString Click(const QString& window, const QString& control) {
     const QWidget& target = Control(window, control);
-    Click(window, target.mapTo(&Window(window), target.rect().center()));
+    return Click(window, target.mapTo(&Window(window), target.rect().center()));
 }
 
-void Fill(const QString& window, const QString& field, const QString& text) {
+QString Fill(const QString& window, const QString& field, const QString& text) {
     Click(window, field);
     Press(Qt::Key_A, Qt::ControlModifier);
-    Type(text);
+    return Type(text);
 }
 
 void PointAt(const QString& window, QPoint place) {
@@ -265,13 +265,13 @@ void PointAt(const QString& window, QPoint place) {
     QCoreApplication::processEvents();
 }
 
-void Close(const QString& window) {
+QString Close(const QString& window) {
     Window(window).windowHandle()->close();
-    QCoreApplication::processEvents();
+    return Desktop();
 }
 
-bool Ends(const std::function<void()>& deed) {
-    QTimer::singleShot(0, qApp, deed);
+bool EndsProgram(const std::function<void()>& action) {
+    QTimer::singleShot(0, qApp, action);
     QTimer limit;
     limit.callOnTimeout(qApp, [] { QCoreApplication::exit(1); });
     limit.start(10000);
