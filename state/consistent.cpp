@@ -21,7 +21,7 @@ struct Range {
     int High;
 };
 
-/// The first field of `whose` that is out of its range.
+/// The first of these fields of `whose` that is out of its range.
 MaybeFlaw OutOfRange(std::string_view whose, std::initializer_list<Range> ranges) {
     for (const Range& range : ranges) {
         if (range.Field < range.Low || range.Field > range.High) {
@@ -53,19 +53,20 @@ MaybeFlaw FlawOfOwnership(const GameState& game, int t, std::string_view name) {
     return std::nullopt;
 }
 
-MaybeFlaw FlawOfStanding(const Territory& territory, std::string_view name) {
-    constexpr int most = std::numeric_limits<std::int16_t>::max();
+MaybeFlaw FlawOfContents(const Territory& territory, std::string_view name) {
+    constexpr int Highest = std::numeric_limits<std::int16_t>::max();
     const Units& units = territory.Stationed;
-    if (auto flaw = OutOfRange(name, {{units.Tanks, "Tanks", 0, most}, {units.Troops, "Troops", 0, most}})) {
+    if (auto flaw =
+            OutOfRange(name, {{units.Tanks, "Tanks", 0, Highest}, {units.Troops, "Troops", 0, Highest}})) {
         return flaw;
     }
-    const void* const standing = territory.HasDefense   ? static_cast<const void*>(&territory.HasDefense)
-                                 : territory.HasFactory ? static_cast<const void*>(&territory.HasFactory)
-                                 : units.Tanks != 0     ? static_cast<const void*>(&units.Tanks)
-                                 : units.Troops != 0    ? static_cast<const void*>(&units.Troops)
-                                                        : nullptr;
-    if (!territory.Occupied && standing != nullptr) {
-        return Flaw{std::string(name) + " belongs to nobody, so nothing can stand in it.", standing};
+    const void* const present = territory.HasDefense   ? static_cast<const void*>(&territory.HasDefense)
+                                : territory.HasFactory ? static_cast<const void*>(&territory.HasFactory)
+                                : units.Tanks != 0     ? static_cast<const void*>(&units.Tanks)
+                                : units.Troops != 0    ? static_cast<const void*>(&units.Troops)
+                                                       : nullptr;
+    if (!territory.Occupied && present != nullptr) {
+        return Flaw{std::string(name) + " belongs to nobody, so nothing can stand in it.", present};
     }
     return std::nullopt;
 }
@@ -73,7 +74,7 @@ MaybeFlaw FlawOfStanding(const Territory& territory, std::string_view name) {
 MaybeFlaw FlawOfTerritory(const GameState& game, int t) {
     const std::string_view name = World[static_cast<std::size_t>(t)].Name;
     auto flaw = FlawOfOwnership(game, t, name);
-    return flaw ? flaw : FlawOfStanding(game.TerritoryAt(t), name);
+    return flaw ? flaw : FlawOfContents(game.TerritoryAt(t), name);
 }
 
 MaybeFlaw FlawOfPlayer(const Player& player, const std::string& who) {

@@ -8,31 +8,31 @@
 
 namespace vorlund {
 
-/// The first thing found in which the records of a game do not agree with each other.
+/// A field of a game that is out of range or contradicts other fields.
 struct Flaw {
-    std::string What;             ///< a sentence in the player's words
+    std::string What;             ///< a sentence for the player
     const void* Field = nullptr;  ///< the field at fault, in the game that was examined
 };
 
-/// Who may have the turn in a game that is examined.
+/// Which current player FirstFlaw accepts.
 enum class AtTurn {
-    Anybody,      ///< computers in their turn, and the dead until they end theirs
-    LivingHuman,  ///< as in a game that can be saved
+    Anybody,      ///< also a computer player, and a dead player until the turn is ended
+    LivingHuman,  ///< as in every game that can be saved
 };
 
-/// What is wrong with a game under way; nothing when it is sound: two to five players, the current one among
-/// them; ownership recorded alike in the territory and with every player; no count of units negative, and
-/// nothing standing in a territory that nobody owns; levels 0 to 3; dead exactly those who own nothing, and
-/// `DeadPlayers` their number. Totals are not looked at: those of computer players lag behind what they own,
-/// those of the dead stay as they were.
+/// The first violated invariant of a game under way, or nothing. The invariants: 2 to 5 players, the current
+/// one among them; territory and players agree on the owner; unit counts are not negative; a territory
+/// without an owner is empty; levels are 0 to 3; exactly the players without a territory are dead, and
+/// `DeadPlayers` is their number. Totals are not checked: a computer player's do not include the units it
+/// creates, and a dead player's are kept.
 std::optional<Flaw> FirstFlaw(const GameState& game, AtTurn atTurn = AtTurn::Anybody);
 
-/// True when there is no flaw.
+/// True when FirstFlaw finds nothing.
 inline bool Consistent(const GameState& game) {
     return !FirstFlaw(game);
 }
 
-/// What a field must be that is out of its range: "a whole number from 0 to 3".
+/// A range in the words of error messages: "a whole number from 0 to 3".
 std::string RangeWords(int low, int high);
 
 }  // namespace vorlund

@@ -14,7 +14,7 @@ inline constexpr int NumTerritories = 42;
 inline constexpr int MinPlayers = 2;
 inline constexpr int MaxPlayers = 5;
 inline constexpr int NeighbourSlots = 6;
-inline constexpr std::int16_t MaxLevel = 3;      ///< of an upgrade; the lowest is 0
+inline constexpr std::int16_t MaxLevel = 3;      ///< of an upgrade; it starts at 0
 inline constexpr std::int16_t NoOwner = 9;       ///< in Territory::Owner: nobody owns it
 inline constexpr std::int16_t NoNeighbour = 99;  ///< in a neighbour slot: the slot is empty
 
@@ -38,12 +38,12 @@ struct Territory {
     bool operator==(const Territory&) const = default;
 };
 
-/// One of up to five players. Texts call it "Player " + (index + 1).
+/// One of up to five players. Texts say "Player " + (index + 1).
 struct Player {
     std::string Name;  ///< UTF-8
 
-    // Running totals over all territories. Units that a computer player creates are not added to its total,
-    // so that may even run below zero.
+    // Running totals over all territories. Units that a computer player creates are not added to its total
+    // but its losses are subtracted, so the total may become negative.
     Units Total;
     std::int16_t Factories = 0;
     std::array<bool, NumTerritories> Owns{};
@@ -56,13 +56,13 @@ struct Player {
     // Treasury: dollars and barrels
     std::int16_t Money = 0;
     std::int16_t Oil = 0;
-    std::int16_t DebtTurns = 0;  ///< upkeeps that ended in debt so far; never falls
+    std::int16_t DebtTurns = 0;  ///< number of upkeeps that have ended in debt; never decreases
 
     // This turn
     std::int16_t MovesLeft = 0;
     std::int16_t AttacksLeft = 0;
     bool HasNuke = false;
-    bool FirstTurn = true;  ///< no attack before the second turn
+    bool FirstTurn = true;  ///< Attack is not available
 
     bool IsDead = false;
     bool IsComputer = false;
@@ -72,16 +72,16 @@ struct Player {
 
 /// The whole game as one value. The program owns exactly one; rules take it by reference.
 struct GameState {
-    // Whose turn it is
+    // The players and whose turn it is
     std::int16_t NumPlayers = 0;
     std::int16_t CurrentPlayer = 0;
     std::int16_t StartingPlayer = 0;  ///< selects first and takes the first turn
     std::int16_t DeadPlayers = 0;
 
-    // How the game stands
-    bool ComputerTurnEnded = false;  ///< the report on screen closes a computer player's turn
-    bool GameLoaded = false;         ///< the board opens for a loaded game
-    bool GameOver = false;           ///< ended, with a winner or with nobody
+    // Progress
+    bool ComputerTurnEnded = false;  ///< the report on screen is that of a computer player's turn
+    bool GameLoaded = false;         ///< the board opens with a loaded game, not with a first turn
+    bool GameOver = false;           ///< ended, with or without a winner
 
     std::array<Territory, NumTerritories> Territories{};
     std::array<Player, MaxPlayers> Players{};

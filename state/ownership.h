@@ -5,20 +5,19 @@
 
 namespace vorlund {
 
-// Ownership is recorded three times: `Occupied` and `Owner` of the territory and `Owns` of the player. It
-// changes only here, so that the three agree.
+// Ownership is recorded three times: in `Occupied` and `Owner` of the territory and in `Owns` of the player.
+// Only these functions change it, so that the three agree.
 
-/// Gives territory index `territory`, which nobody or `player` holds, to player index `player`. Its units and
-/// buildings are not touched.
+/// Gives territory index `territory`, which nobody or `player` owns, to player index `player`. Units and
+/// buildings do not change.
 void Claim(GameState& game, int territory, int player);
 
-/// Takes territory index `territory`, which somebody holds, from its owner and leaves it to nobody. Its
-/// factory comes off the owner's count and its defense is gone; its units are not touched.
+/// Takes territory index `territory` from its owner, so that nobody owns it. Its factory is subtracted from
+/// the owner's count, factory and defense are removed; its units do not change.
 void Abandon(GameState& game, int territory);
 
-/// Gives territory index `territory`, held by another player, to the current player with the force that
-/// survived the battle for it. Its factory and defense are destroyed, the factory comes off the loser's
-/// count.
+/// Gives territory index `territory`, owned by another player, to the current player; `force`, the survivors
+/// of the battle, is stationed there. Its factory and defense are removed as by Abandon.
 void Capture(GameState& game, int territory, const Units& force);
 
 }  // namespace vorlund

@@ -7,7 +7,7 @@
 
 namespace vorlund {
 
-/// What texts call player index `player`: "Player 3".
+/// Player index `player` in texts: "Player 3".
 inline std::string PlayerWords(int player) {
     return "Player " + std::to_string(player + 1);
 }

@@ -8,7 +8,7 @@
 
 namespace vorlund {
 
-// All in dollars. The captions of the dialogs are made from them.
+// All in dollars. The captions of the dialogs are composed from these constants.
 
 struct UnitPrices {
     int Troop;
@@ -17,11 +17,11 @@ struct UnitPrices {
 
 inline constexpr UnitPrices BuyingPrices{10, 40};
 inline constexpr UnitPrices SellingPrices{7, 30};
-inline constexpr std::int16_t BarrelsPerDollar = 3;  ///< oil is traded in such lots, either way
+inline constexpr std::int16_t BarrelsPerDollar = 3;  ///< oil is bought and sold in lots of so many
 inline constexpr std::int16_t FactoryPrice = 180;
 inline constexpr std::int16_t DefensePrice = 100;
 
-// Upgrade prices by the level that is reached: 1, 2, 3.
+// Prices of upgrading to level 1, 2 and 3
 inline constexpr std::array<std::int16_t, MaxLevel> EconomyPrice{150, 300, 450};
 inline constexpr std::array<std::int16_t, MaxLevel> WarfarePrice{200, 400, 600};
 inline constexpr std::array<std::int16_t, MaxLevel> NuclearPrice{100, 300, 700};

@@ -7,9 +7,9 @@
 namespace vorlund {
 
 int ClockRandom::Draw(int faces) {
-    // The 24 high bits are all that single precision holds without rounding up to 1.
+    // A float's significand has 24 bits; with more the value could be rounded up to 1.
     const float u = static_cast<float>(engine_() >> 8U) * 0x1p-24F;
-    // In double precision, where u * faces cannot round up to faces.
+    // The product is computed in double precision, where it cannot be rounded up to `faces`.
     return static_cast<int>(std::floor(static_cast<double>(u) * faces));
 }
 

@@ -6,29 +6,28 @@
 
 namespace vorlund {
 
-/// The game's chance. Rules take it as an argument, so that a script of rolls can stand in.
+/// A source of random numbers. Rules take it as an argument, so that tests can pass a scripted sequence.
 class Random {
 public:
     virtual ~Random() = default;
 
-    /// One throw of a die with `faces` >= 0 faces: 0 to `faces` - 1, each as likely; 0 without a face.
+    /// Rolls a die of `faces` >= 0 faces: 0 to `faces` - 1 with equal chance; always 0 if `faces` is 0.
     virtual int Draw(int faces) = 0;
 
-    /// Starts a new sequence from the clock.
+    /// Starts a new sequence that depends on the clock.
     virtual void Reseed() = 0;
 };
 
-/// The generator of the running game. Two reseedings within one tick of the clock still give different
-/// sequences, for a counter goes into the seed as well.
+/// The generator of the running game. The seed contains a counter besides the time, so that two calls of
+/// Reseed within one tick of the clock start different sequences.
 class ClockRandom : public Random {
 public:
     ClockRandom() { SeedFromClock(); }
 
-    /// A fixed first sequence, for programs that must be able to play a game again.
+    /// Starts with a fixed sequence, for tests that must be repeatable.
     explicit ClockRandom(std::uint32_t seed) : engine_(seed) {}
 
-    /// The largest whole number not above u * `faces` for the next uniform u, 0 <= u < 1, in single
-    /// precision.
+    /// floor(u * `faces`) for the next uniform single-precision value u, 0 <= u < 1.
     int Draw(int faces) override;
     void Reseed() override { SeedFromClock(); }
 

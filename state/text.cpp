@@ -8,7 +8,8 @@
 namespace vorlund {
 namespace {
 
-/// Capitals First to Last, every Step-th character, whose small letters lie Distance further on.
+/// The capitals First, First + Step, ... Last; each one's lower-case letter is `Distance` code points above
+/// it.
 struct Capitals {
     char32_t First;
     char32_t Last;
@@ -18,9 +19,9 @@ struct Capitals {
 
 constexpr std::array<Capitals, 13> AllCapitals{{
     {U'A', U'Z', 1, 0x20},
-    {0x00C0, 0x00D6, 1, 0x20},  // Latin with marks; U+00D7 is a times sign
+    {0x00C0, 0x00D6, 1, 0x20},  // Latin with diacritics; U+00D7 is the multiplication sign
     {0x00D8, 0x00DE, 1, 0x20},
-    {0x0100, 0x012E, 2, 1},  // U+0130 and U+0131 are the Turkish i's
+    {0x0100, 0x012E, 2, 1},  // U+0130 and U+0131, dotted I and dotless i, are no pair
     {0x0132, 0x0136, 2, 1},
     {0x0139, 0x0147, 2, 1},
     {0x014A, 0x0176, 2, 1},

@@ -6,16 +6,16 @@
 
 namespace vorlund {
 
-// What is done to texts that players type or files hold. The locale never matters.
+// Functions on texts from the keyboard and from files. None of them depends on the locale.
 
-/// `text` without the blanks around it. Tabs and line ends are no blanks.
+/// `text` without leading and trailing spaces. Tabs and line ends are kept.
 std::string_view Trimmed(std::string_view text);
 
-/// `utf8` with its Latin, Greek and Cyrillic capitals made small, as far as they have one counterpart each;
-/// all other characters stay, and so does a text that is not UTF-8.
+/// `utf8` in lower case: Latin, Greek and Cyrillic capitals that map to a single letter are mapped,
+/// everything else is kept. Text that is not valid UTF-8 is returned unchanged.
 std::string LowerCase(std::string_view utf8);
 
-/// True for the control characters of ASCII, whatever the code page around them.
+/// True for the control characters of ASCII, which are the same in every code page.
 constexpr bool IsAsciiControl(char32_t c) {
     return c < 0x20 || c == 0x7F;
 }

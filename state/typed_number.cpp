@@ -29,7 +29,7 @@ std::optional<double> ReadNumber(std::string_view text) {
             return std::nullopt;
         }
     }
-    // from_chars would also take "inf" and "nan", which are words here.
+    // from_chars also accepts "inf" and "nan".
     if (text.find_first_not_of("0123456789.eE+-") != std::string_view::npos) {
         return std::nullopt;
     }
@@ -47,7 +47,7 @@ std::optional<double> ReadQuantity(std::string_view text) {
 }
 
 std::optional<std::int16_t> RoundToInt16(double value) {
-    // Not std::nearbyint: that would follow whatever rounding mode some library has set.
+    // Not std::nearbyint, which depends on the rounding mode that any library in the process may have set.
     const double below = std::floor(value);
     const double fraction = value - below;
     const bool up = fraction > 0.5 || (fraction == 0.5 && std::fmod(below, 2.0) != 0.0);

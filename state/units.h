@@ -7,8 +7,8 @@
 
 namespace vorlund {
 
-/// A force: units that stand in a territory, are sent or traded, or have fallen. Only a player's total can be
-/// below zero.
+/// A number of units of each kind: stationed, sent, traded or lost. Negative only in a player's total and as
+/// the operand of a subtraction.
 struct Units {
     std::int16_t Troops = 0;
     std::int16_t Tanks = 0;
@@ -19,13 +19,13 @@ struct Units {
     bool operator==(const Units&) const = default;
 };
 
-/// Adds `more` to `units`, each count stopping at the ends of its range.
+/// Adds `more` to `units`; each count saturates.
 constexpr void Add(Units& units, const Units& more) {
     Add(units.Troops, more.Troops);
     Add(units.Tanks, more.Tanks);
 }
 
-/// Both forces together; nothing when a count would not fit its field.
+/// The sum of `a` and `b`; nothing when a count does not fit 16 bits.
 constexpr std::optional<Units> Sum(const Units& a, const Units& b) {
     Units sum = a;
     Add(sum, b);

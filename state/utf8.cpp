@@ -14,12 +14,13 @@ char32_t Byte(char c) {
     return static_cast<unsigned char>(c);
 }
 
-/// The smallest character that needs `length` bytes; a smaller one in as many bytes is overlong.
+/// The lowest code point that needs `length` bytes. Encoding a lower one in so many is overlong.
 char32_t SmallestOfLength(int length) {
     return length == 2 ? 0x80 : length == 3 ? 0x800 : 0x10000;
 }
 
-/// Takes one character of two to four bytes off the front of `utf8`.
+/// Decodes the sequence of two to four bytes at the front of `utf8` and removes it; nothing when it is
+/// malformed.
 std::optional<char32_t> TakeLongCharacter(std::string_view& utf8) {
     const int length = std::countl_one(static_cast<unsigned char>(utf8.front()));
     if (length < 2 || length > 4 || utf8.size() < static_cast<std::size_t>(length)) {
@@ -40,10 +41,10 @@ std::optional<char32_t> TakeLongCharacter(std::string_view& utf8) {
     return character;
 }
 
-void Append(std::string& utf8, char32_t lead, char32_t character, unsigned followers) {
-    utf8 += static_cast<char>(lead | character >> (6U * followers));
-    while (followers-- > 0) {
-        utf8 += static_cast<char>(0x80U | (character >> (6U * followers) & 0x3FU));
+void Append(std::string& utf8, char32_t leadBits, char32_t character, unsigned continuationBytes) {
+    utf8 += static_cast<char>(leadBits | character >> (6U * continuationBytes));
+    while (continuationBytes-- > 0) {
+        utf8 += static_cast<char>(0x80U | (character >> (6U * continuationBytes) & 0x3FU));
     }
 }
 

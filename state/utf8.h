@@ -7,7 +7,8 @@
 
 namespace vorlund {
 
-/// The characters of `utf8`; nothing when it is not UTF-8 (cut off, overlong, a surrogate, beyond U+10FFFF).
+/// The code points of `utf8`; nothing when it is malformed: a truncated or overlong sequence, a surrogate, a
+/// value above U+10FFFF.
 std::optional<std::u32string> DecodeUtf8(std::string_view utf8);
 
 std::string EncodeUtf8(std::u32string_view characters);

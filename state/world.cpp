@@ -54,7 +54,7 @@ constexpr std::array<WorldEntry, NumTerritories> Table{{
     {"Eastern Australia", 6, 640, 294, false, {39, 40, X, X, X, X}},  // clang-format on
 }};
 
-constexpr bool Lists(const WorldEntry& entry, std::size_t index) {
+constexpr bool HasNeighbour(const WorldEntry& entry, std::size_t index) {
     return std::find(entry.Neighbours.begin(), entry.Neighbours.end(), static_cast<std::int16_t>(index)) !=
            entry.Neighbours.end();
 }
@@ -62,7 +62,8 @@ constexpr bool Lists(const WorldEntry& entry, std::size_t index) {
 constexpr bool NeighboursAreMutual() {
     for (std::size_t a = 0; a < Table.size(); ++a) {
         for (std::size_t b = 0; b < Table.size(); ++b) {
-            if (Lists(Table[a], b) != Lists(Table[b], a) || (a == b && Lists(Table[a], b))) {
+            if (HasNeighbour(Table[a], b) != HasNeighbour(Table[b], a) ||
+                (a == b && HasNeighbour(Table[a], b))) {
                 return false;
             }
         }

@@ -9,7 +9,7 @@
 
 namespace vorlund {
 
-/// What the map says of one territory and no game changes.
+/// The properties of a territory that no game changes.
 struct WorldEntry {
     std::string_view Name;
     std::int16_t Value;
@@ -17,24 +17,23 @@ struct WorldEntry {
     std::int16_t MapY;
     bool HasOil;
     std::array<std::int16_t, NeighbourSlots>
-        Neighbours;  ///< in slot order; the order counts, it is not sorted
+        Neighbours;  ///< unsorted; the computer player scans the slots in this order
 };
 
 /// The world by territory index.
 extern const std::array<WorldEntry, NumTerritories> World;
 
-/// Writes the world into `game` and clears everything that a game changes on territories and players: nobody
-/// owns anything, and all five players are alive, human, at level 0 and before their first turn. Names,
-/// treasuries, `Factories`, moves and attacks left and the global fields are left alone.
+/// Writes the world into `game` and resets territories and players: nobody owns a territory, and all five
+/// players are alive, human, at level 0 and before their first turn. Names, `Money`, `Oil`, `Factories`,
+/// `MovesLeft`, `AttacksLeft` and the fields of GameState itself are kept.
 void InitWorld(GameState& game);
 
-/// What the game is reset to when the program starts: the world as InitWorld writes it, no end of a game and
-/// no computer player's turn behind it.
+/// Resets `game` at the start of the program: InitWorld, and neither GameOver nor ComputerTurnEnded.
 void ResetGame(GameState& game);
 
 /// True when the current player may move (`isAttack` false) or attack (true) from territory index `from` to
-/// `to`. Any indices may be asked for. A move may go into an own or an unoccupied neighbour, an attack into
-/// one that another player holds.
+/// `to`, which may be any numbers. A move goes into an own or unoccupied neighbour, an attack into one that
+/// another player owns.
 bool CanReach(const GameState& game, bool isAttack, int from, int to);
 
 }  // namespace vorlund
