@@ -10,7 +10,7 @@
 
 namespace vorlund {
 
-/// The commands of the board, in the order of their keys and tabs.
+/// The commands of the board, in tab order.
 enum class Command { Buy, Sell, Transport, Attack, Upgrade, Status, EndTurn, Save };
 
 inline constexpr int NumCommands = 8;
@@ -35,16 +35,16 @@ private:
     std::bitset<NumCommands> bits_;
 };
 
-/// Why something cannot be done now, a sentence for the player; nothing when it can. What a command of a
-/// dialog needs is said beside its action.
+/// Why a command is not available, a sentence for the player; nothing when it is available. The commands of
+/// dialogs have such functions beside their actions (WhyNoAttack, WhyNoMove, WhyNoStrike, WhyNoUpgrade).
 using WhyNot = std::optional<std::string>;
 
-/// Why the current player may not use `command` when no dialog, report or computer's turn stands in the way:
-/// the game is over or nobody lives, the player is dead and can only end the turn, or would attack in the
-/// first turn. This is the one place that decides it.
+/// Why the current player may not use `command`: the game is over or nobody is alive, the player is dead and
+/// can only end the turn, or it is an attack in the first turn. While a dialog, a report or a computer's turn
+/// is open, the screens disable all commands without asking this.
 WhyNot WhyUnavailable(const GameState& game, Command command);
 
-/// All commands that are not unavailable.
+/// All commands that WhyUnavailable has no reason against.
 CommandSet AvailableCommands(const GameState& game);
 
 }  // namespace vorlund

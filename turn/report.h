@@ -5,7 +5,7 @@
 
 namespace vorlund {
 
-/// What the report screen shows. Lines of the body end with a carriage return.
+/// The texts of the report screen. Lines of the body end with a carriage return.
 struct Report {
     std::string Title;
     std::string Headline;

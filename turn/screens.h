@@ -9,36 +9,35 @@
 
 namespace vorlund {
 
-/// What the turn asks of the screens. The program implements it once; nothing below this line of the house
-/// knows how a screen looks.
+/// The interface by which turns drive the screens. The program implements it in `ui`, the tests with a
+/// recorder.
 class Screens {
 public:
     virtual ~Screens() = default;
 
-    /// Redraws every territory of the board from the game.
+    /// Redraws every territory of the board.
     virtual void RefreshMap() = 0;
 
-    /// Makes exactly these commands of the board available.
+    /// Enables exactly these commands of the board.
     virtual void SetCommands(CommandSet available) = 0;
 
     virtual void SetBoardTitle(const std::string& title) = 0;
 
-    /// Lays the game-over picture over the map.
+    /// Shows the game-over picture over the map.
     virtual void ShowGameOver() = 0;
 
-    /// Closes every open command dialog outright; none of them gives the commands back.
+    /// Closes every open command dialog without enabling the board's commands again.
     virtual void CloseDialogs() = 0;
 
-    /// Shows `report`, replacing whatever the report screen showed, in front of the board and without
-    /// blocking. `picturePlayer` is the player whose marker it bears, if any.
+    /// Shows `report` in the report screen, in front of the board, and returns at once. The marker of
+    /// `picturePlayer`, if any, is shown with it.
     virtual void ShowReport(const Report& report, std::optional<int> picturePlayer) = 0;
 
-    /// Takes the report screen away without asking what closing it means. The next ShowReport writes all of
-    /// it anew.
+    /// Hides the report screen without TurnCycle::ReportClosed.
     virtual void CloseReport() = 0;
 
-    /// Shows `text` in an exclamation box and returns when it has been answered. Until then no other window
-    /// takes a close request.
+    /// Shows `text` in an exclamation box and returns when it has been closed. Until then every other window
+    /// ignores close requests.
     virtual void Announce(const std::string& text) = 0;
 };
 

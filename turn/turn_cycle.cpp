@@ -15,9 +15,9 @@ bool OneIsLeft(const GameState& game) {
     return game.DeadPlayers == game.NumPlayers - 1;
 }
 
-// A player who was the last but one and has just collapsed is dead and still has to end the turn, which
-// announces the winner; so the game is not over yet.
-bool NothingMoreToDo(const GameState& game) {
+/// A current player who has just collapsed, leaving one player alive, is dead but must still end the turn,
+/// which announces the winner: there the game is not over yet.
+bool IsOver(const GameState& game) {
     return game.GameOver || (OneIsLeft(game) && !game.Current().IsDead);
 }
 
@@ -64,7 +64,7 @@ void TurnCycle::PassTurn() {
 }
 
 bool TurnCycle::ReportClosed() {
-    if (NothingMoreToDo(game_)) {
+    if (IsOver(game_)) {
         return false;
     }
     if (!game_.Current().IsComputer && !game_.ComputerTurnEnded) {
@@ -73,7 +73,8 @@ bool TurnCycle::ReportClosed() {
     }
     const std::int16_t next = NextAlive(game_, game_.CurrentPlayer);
     if (game_.Current().IsComputer && game_.PlayerAt(next).IsComputer) {
-        // Not a turn that somebody ended: there are no new moves and attacks, which no computer uses.
+        // By the rules this is no change of turn: BeginTurn is not called. Its moves and attacks are part of
+        // the saved game, although no computer player uses them.
         game_.CurrentPlayer = next;
         computerTurn_();
     } else {

@@ -14,17 +14,18 @@ namespace vorlund {
 inline constexpr std::int16_t MovesPerTurn = 2;
 inline constexpr std::int16_t AttacksPerTurn = 2;
 
-/// The board's title in the current player's turn: "Vorlund - Anna's turn".
+/// The board's title during the current player's turn: "Vorlund - Anna's turn".
 std::string TurnTitle(const GameState& game);
 
-/// Who is next in the order of play after player index `player` and alive; `player` when nobody else is.
+/// The next living player in the order of play after player index `player`; `player` when nobody else is
+/// alive.
 std::int16_t NextAlive(const GameState& game, int player);
 
-/// Moves play from player to player: what End Turn does, and what closing a report leads to.
+/// Passes the turn from player to player, on End Turn and when reports are closed.
 class TurnCycle {
 public:
-    /// `computerTurn` plays the whole turn of the current player, a computer. It is handed in because it
-    /// stands on a higher floor than the turn itself.
+    /// `computerTurn` plays the whole turn of the current player, a computer. It is a callable because this
+    /// folder must not include `computer`, which stands on a higher floor.
     TurnCycle(GameState& game, Random& random, Screens& screens, std::function<void()> computerTurn);
 
     /// Ends the current player's turn and starts the next living player's: the upkeep of a human with its
@@ -32,20 +33,20 @@ public:
     /// alive.
     void EndTurn();
 
-    /// What a request to close the report screen leads to. True when the screen must stay open because it
-    /// shows a new report now. Otherwise it closes, and the commands of a human player whose turn it is come
-    /// back.
+    /// Handles a request to close the report screen. In a human's turn that enables the commands again; after
+    /// a computer's turn it starts the next player's. True when the screen must stay open because it now
+    /// shows the next report.
     bool ReportClosed();
 
-    /// Starts the turn of the current player, a human, once the territories have been selected: moves,
-    /// attacks, board title, upkeep and its report, which bears no picture this once.
+    /// Starts the first turn of a new game, that of the current player, a human: moves, attacks, board title,
+    /// and the upkeep with its report, which shows no player's marker.
     void OpenFirstTurn();
 
 private:
-    /// What EndTurn does once the report of the turn is out of the way.
+    /// EndTurn without hiding the report screen.
     void PassTurn();
 
-    /// Moves and attacks of the current player's turn, and their name in the board's title.
+    /// Sets the current player's moves and attacks and the board's title.
     void BeginTurn();
     void RunUpkeepOfCurrentPlayer(bool withPicture);
 

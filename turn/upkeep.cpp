@@ -12,23 +12,23 @@ namespace {
 
 constexpr int ResearchRoll = 2;
 
-struct Harvest {
-    std::int16_t Income = 0;  // dollars
-    int Oil = 0;              // barrels
+struct Yield {
+    std::int16_t Income = 0;  ///< dollars
+    int Oil = 0;              ///< barrels
 };
 
-Harvest HarvestOf(const GameState& game, int player) {
+Yield YieldOf(const GameState& game, int player) {
     int income = 0;
-    Harvest harvest;
+    Yield yield;
     for (int t = 0; t < NumTerritories; ++t) {
         if (!Owns(game, player, t)) {
             continue;
         }
         income += TerritoryIncome(game.TerritoryAt(t).Value);
-        harvest.Oil += game.TerritoryAt(t).HasOil ? OilFieldBarrels : 0;
+        yield.Oil += game.TerritoryAt(t).HasOil ? OilFieldBarrels : 0;
     }
-    harvest.Income = ClampInt16(RaisedByEconomy(income, game.PlayerAt(player)));
-    return harvest;
+    yield.Income = ClampInt16(RaisedByEconomy(income, game.PlayerAt(player)));
+    return yield;
 }
 
 void Research(Player& player, Random& random, std::string& body) {
@@ -51,7 +51,7 @@ void Collapse(GameState& game, int p) {
             game.TerritoryAt(t).Stationed = {};
         }
     }
-    player.Factories = factories;  // the totals of the dead stay as they were
+    player.Factories = factories;  // Abandon counts them down, but a dead player's totals are kept
 }
 
 }  // namespace
@@ -69,9 +69,9 @@ Report RunUpkeep(GameState& game, Random& random, int p) {
     Player& player = game.PlayerAt(p);
     const std::int16_t upkeep = MoneyUpkeep(player);
     const std::int16_t tankUpkeep = ClampInt16(std::int64_t{TankUpkeepBarrels} * player.Total.Tanks);
-    const Harvest harvest = HarvestOf(game, p);
-    int money = player.Money - upkeep + harvest.Income;
-    int oil = player.Oil - tankUpkeep + harvest.Oil;
+    const Yield yield = YieldOf(game, p);
+    int money = player.Money - upkeep + yield.Income;
+    int oil = player.Oil - tankUpkeep + yield.Oil;
 
     Report report;
     report.Title = "Vorlund - Upkeep";
@@ -79,8 +79,8 @@ Report RunUpkeep(GameState& game, Random& random, int p) {
     std::string& body = report.Body;
     body = "Upkeep for Troops and Factories: $" + std::to_string(upkeep) + "\r" +
            "Upkeep for Tanks: " + std::to_string(tankUpkeep) + " barrels\r\r" +
-           "Money collected from territories: $" + std::to_string(harvest.Income) + "\r" +
-           "Remaining money after expenses: $" + std::to_string(harvest.Income - upkeep) + "\r\r";
+           "Money collected from territories: $" + std::to_string(yield.Income) + "\r" +
+           "Remaining money after expenses: $" + std::to_string(yield.Income - upkeep) + "\r\r";
     Research(player, random, body);
 
     if (oil < 0) {

@@ -8,23 +8,22 @@
 
 namespace vorlund {
 
-/// Ends the life of player index `player`, who must be alive, if they own no territory; the units do not
-/// count. True when this call did it.
+/// Marks player index `player`, who must be alive, as dead if they own no territory; totals of units do not
+/// matter. True when it did.
 bool CheckDead(GameState& game, int player);
 
-/// The words for a player whose last territory has been captured: "Player 3 is now dead.".
+/// The report's line on a player whose last territory has been captured: "Player 3 is now dead.".
 std::string NowDeadText(int player);
 
-/// The words for a player who has given up their own last territory.
+/// The report's line when the current player has given up their own last territory.
 inline constexpr const char* KilledYourselfText =
     "You have killed yourself... you have no troops or tanks remaining.";
 
-/// Ends the game with player index `player` as winner. `computerReport` is what the winner's own turn has
-/// reported so far when the win comes out of a computer's turn, and null when it is found at the change of
-/// turn.
+/// Ends the game with player index `player` as winner and announces it. `computerReport` is the report of the
+/// winner's turn when a computer has won in it, and null when the win is found at the change of turn.
 void DeclareWinner(GameState& game, Screens& screens, int player, const Report* computerReport);
 
-/// Shows that the game has ended without a winner, as an order has found.
+/// Announces the end of the game without a winner, after an order that has eliminated the last player.
 void NobodyWins(Screens& screens);
 
 }  // namespace vorlund
