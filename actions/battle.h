@@ -12,58 +12,58 @@
 
 namespace vorlund {
 
-inline constexpr int EvenFaces = 12;         ///< of a round's die, when neither side is ahead
-inline constexpr int DefenderLosesUpTo = 5;  ///< on that die; the attacker loses above it
+inline constexpr int EvenFaces = 12;         ///< of the die of a round with equal odds
+inline constexpr int DefenderLosesUpTo = 5;  ///< the highest roll by which the defender loses
 inline constexpr int DefenseLead = 2;        ///< what a defense adds to the faces
 inline constexpr int HitsPerTank = 3;
 
 /// One side of a battle.
 struct Side {
     int Player = 0;    ///< index
-    Units Force;       ///< what still stands
+    Units Force;       ///< what is left of it
     int TankHits = 0;  ///< hits on tanks since the last one was destroyed, 0 to 2
     Units Lost;
 };
 
-/// One attack while it is fought, on a copy of the forces: Fight writes what comes of it into the game. The
-/// attacking force has left its territory and stands in none.
+/// An attack in progress, on copies of the forces: Fight writes the result into the game. The attacking force
+/// has already been taken from its territory.
 struct Battle {
     int Target = 0;   ///< territory index
-    int WarDiff = 0;  ///< -3 to 5; each step up takes from the attacker's odds
+    int WarDiff = 0;  ///< -3 to 5; the higher, the lower the attacker's odds
     Side Attacker;
     Side Defender;
 };
 
-/// The battle of the current player for territory index `target`, which another player holds, with `force`.
-/// `WarDiff` is how many Warfare levels the defender is ahead, and 2 more where a defense stands.
+/// The battle of the current player for territory index `target`, which another player owns, with `force`.
+/// `WarDiff` is the defender's lead in Warfare levels, plus 2 if the target has a defense.
 Battle BeginBattle(const GameState& game, int target, const Units& force);
 
-/// One round, one draw over 12 + WarDiff: up to 5 the defender loses a unit, above it the attacker does.
-/// Troops fall first, and a tank falls at the third hit. Both sides must have a unit left.
+/// One round, with a roll of a die of 12 + WarDiff faces: up to 5 the defender takes a hit, above that the
+/// attacker. A hit kills a troop; without troops, every third one destroys a tank. Both sides must have
+/// units.
 void BattleRound(Random& random, Battle& battle);
 
-/// Fights round after round until a side has no unit left; true when the attacker has won. A force without
-/// units loses, even against an empty territory. The losses come off the target and both players' totals; the
-/// territory does not change hands here.
+/// Fights rounds until a side has no units; true when the attacker has won. A force without units loses, even
+/// against an empty territory. The losses are subtracted from the target and both players' totals; the owner
+/// does not change here.
 bool Fight(GameState& game, Random& random, Battle& battle);
 
-/// Why the attack command is not enabled for the current player: no attack is left.
+/// Why the dialog's Attack command is not available: the current player has no attack left.
 WhyNot WhyNoAttack(const GameState& game);
 
 /// "You have 2 attacks left this turn." for the current player.
 std::string AttacksLeftText(const GameState& game);
 
-/// From where the current player can attack, and where to from the one that is entered as `from` or else from
-/// any; none without an attack left. See Sources and Destinations.
+/// The Sources and the Destinations of the current player's attacks; none without an attack left.
 TerritorySet AttackSources(const GameState& game);
 TerritorySet AttackDestinations(const GameState& game, std::string_view from);
 
 /// The most troops or tanks that an attack could take; see MostToSend.
 Most MostToAttack(const GameState& game, const OrderEntries& entries, Goods goods);
 
-/// The current player's attack, fought to its end: the survivors take the target over or the force is lost,
-/// and an attacking territory left empty is given up. A beep when there is WhyNoAttack, a refusal for
-/// entries that make no legal attack, otherwise the report of the battle. Reseeds `random` unless it beeps.
+/// Carries out the current player's attack: the survivors occupy the target or the force is lost, and the
+/// attacking territory is abandoned if it is left empty. A beep when WhyNoAttack has a reason, a refusal for
+/// entries that are no legal attack, otherwise the report of the battle. Reseeds `random` unless it beeps.
 std::variant<Beep, Refusal, Report> Attck(GameState& game, Random& random, const OrderEntries& entries);
 
 }  // namespace vorlund

@@ -11,23 +11,24 @@ namespace {
 
 constexpr TradeTerms Buying{"buy", "bought", 1, BuyingPrices};
 
-// An order is priced with a little more than a third of a dollar a barrel, so that lots of 3 come out whole.
+/// For checking whether the money suffices. A little more than a third, so that whole lots of 3 barrels are
+/// not rounded down; what is paid is a dollar for each lot.
 constexpr double DollarsPerBarrel = 0.3334;
 
-// The price of a whole order; nothing when it does not fit 16 bits.
+/// The price of the order; nothing when it does not fit 16 bits.
 std::optional<std::int16_t> PriceOf(const TradeOrder& order) {
     return CutToInt16(1.0 * BuyingPrices.Troop * order.Force.Troops +
                       1.0 * BuyingPrices.Tank * order.Force.Tanks + std::floor(order.Oil * DollarsPerBarrel));
 }
 
-// How many dollars the current player lacks for an order, none or fewer if it can be paid; nothing when its
-// price does not fit 16 bits.
+/// The dollars that the current player lacks for an order, 0 or less if the money suffices; nothing when its
+/// price does not fit 16 bits.
 std::optional<int> Lacking(const GameState& game, const TradeOrder& order) {
     const auto price = PriceOf(order);
     return price ? std::optional(*price - game.Current().Money) : std::nullopt;
 }
 
-// Where the units would go, or why they cannot.
+/// The territory for the units, or why they cannot be bought for it.
 std::variant<Refusal, int> Placement(const GameState& game, const TypedForce& force,
                                      const TradeEntries& entries) {
     auto choice = UnitTerritory(Buying, KindOf(force), entries);
@@ -65,7 +66,7 @@ std::variant<Refusal, Report> Buy(GameState& game, const TradeEntries& entries) 
     if (!quantities) {
         return Refusal{NoTransactionText};
     }
-    // The place is checked for what was typed: half a troop needs a factory as well.
+    // The territory is checked before fractions are cut off: half a troop needs a factory as well.
     int territory = 0;
     if (!quantities->Force.IsZero()) {
         const auto placement = Placement(game, quantities->Force, entries);

@@ -9,7 +9,7 @@
 
 namespace vorlund {
 
-/// A force as a player has typed it, fractions and signs included.
+/// A force as typed, with fractions and signs.
 struct TypedForce {
     double Troops = 0;
     double Tanks = 0;
@@ -20,10 +20,10 @@ struct TypedForce {
 /// Reads the fields of a force, an empty one as 0; nothing when one of them holds no number.
 std::optional<TypedForce> ReadForce(std::string_view troops, std::string_view tanks);
 
-/// Cuts both counts down to whole numbers; nothing when one of them does not fit 16 bits.
+/// Rounds both counts down to whole numbers; nothing when one of them does not fit 16 bits.
 std::optional<Units> CutDown(const TypedForce& force);
 
-/// "Casualties for `whom`:" with what they have lost, and an empty line.
+/// The lines of a report under "Casualties for `whom`:", and an empty line.
 std::string Casualties(const std::string& whom, const Units& lost);
 
 }  // namespace vorlund

@@ -22,8 +22,8 @@ std::optional<TypedForce> ReadForceOf(const OrderEntries& entries, const OrderTe
     return force;
 }
 
-std::optional<Order> ReadWay(const GameState& game, const OrderTerms& terms, const OrderEntries& entries,
-                             const TypedForce& typed) {
+std::optional<Order> ReadRoute(const GameState& game, const OrderTerms& terms, const OrderEntries& entries,
+                               const TypedForce& typed) {
     const auto from = ReadTerritory(entries.From, TerritoryRounding::Index);
     const auto to = ReadTerritory(entries.To, TerritoryRounding::Index);
     const auto force = CutDown(typed);
@@ -119,7 +119,7 @@ std::variant<Refusal, Order> ReadOrder(const GameState& game, const OrderTerms& 
     if (force->IsZero()) {
         return Refusal{"Enter a number for either troops or tanks."};
     }
-    const auto order = ReadWay(game, terms, entries, *force);
+    const auto order = ReadRoute(game, terms, entries, *force);
     if (!order) {
         return Refusal{terms.Invalid};
     }

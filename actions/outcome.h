@@ -5,19 +5,19 @@
 
 namespace vorlund {
 
-/// The action was not carried out and nothing has changed; `Message` says why.
+/// The action was refused and nothing has changed; `Message` says why.
 struct Refusal {
     std::string Message;
 
     bool operator==(const Refusal&) const = default;
 };
 
-/// The action's command is not available: the computer beeps, and nothing has changed.
+/// The action's command is not available: the dialog beeps, and nothing has changed.
 struct Beep {
     bool operator==(const Beep&) const = default;
 };
 
-/// Nothing happened, and nothing is said of it.
+/// Nothing has changed, and no message is shown.
 struct Nothing {
     bool operator==(const Nothing&) const = default;
 };

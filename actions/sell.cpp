@@ -11,7 +11,7 @@ namespace {
 
 constexpr TradeTerms Selling{"sell", "sold", -1, SellingPrices};
 
-// Why the current player cannot sell these units out of territory index `t`, or nothing.
+/// Why the current player cannot sell these units from territory index `t`, or nothing.
 std::optional<Refusal> RefuseUnits(const GameState& game, int t, const Units& force) {
     if (!Owns(game, game.CurrentPlayer, t)) {
         return Refusal{"To sell " + KindOf(force) + " the territory must be owned by you."};

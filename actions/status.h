@@ -7,7 +7,7 @@
 
 namespace vorlund {
 
-/// The values of the status screen.
+/// The texts of the status screen.
 struct StatusLines {
     std::string Title;  ///< of the window
     std::string Name;
@@ -19,14 +19,15 @@ struct StatusLines {
     std::string Debt;
     std::string Economy;
     std::string Warfare;
-    std::string Nuclear;  ///< two lines: the level, and how the bomb stands
+    std::string Nuclear;  ///< two lines: the level, and whether there is a bomb
     std::string AttacksMoves;
     std::string Upkeep;  ///< an estimate, see DescribeStatus
 };
 
-/// How the current player stands. The estimate of the next upkeep has a formula of its own: $(5 x value + 10)
-/// a territory, raised by the Economy level, less the upkeep of troops and factories; it is not
-/// what the upkeep will book.
+/// The status of the current player. The estimate of the upkeep has its own formula, which differs from
+/// RunUpkeep:
+/// $(5 x value + 10) for each territory, raised by the Economy level, less the upkeep of troops and
+/// factories.
 StatusLines DescribeStatus(const GameState& game);
 
 }  // namespace vorlund

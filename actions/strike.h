@@ -13,23 +13,24 @@
 
 namespace vorlund {
 
-/// Drops the current player's bomb on territory index `target`, which another player holds: half of its
-/// troops and a quarter of its tanks, both rounded down, come off the territory and its owner's total.
-/// They are the result.
+/// Drops the current player's bomb on territory index `target`, which another player owns, and returns the
+/// losses: half of the troops and a quarter of the tanks, both rounded down. They are subtracted from the
+/// territory and from its owner's total.
 Units DropBomb(GameState& game, int target);
 
-/// "You have a nuclear bomb to use." or that there is none, for the current player.
+/// Whether the current player has a bomb: "You have a nuclear bomb to use.".
 std::string BombText(const GameState& game);
 
-/// Why the strike command is not enabled for the current player, who holds no bomb.
+/// Why the dialog's Launch Nuke command is not available: the current player has no bomb.
 WhyNot WhyNoStrike(const GameState& game);
 
-/// What the current player's bomb can be dropped on: whatever another player holds; nothing without a bomb.
+/// The territories that the current player's bomb can be dropped on: those of other players; none without a
+/// bomb.
 TerritorySet StrikeTargets(const GameState& game);
 
-/// The current player's strike upon the territory whose number is typed in `target`. A beep when there is
-/// WhyNoStrike, a refusal for an entry that names no territory of another player, otherwise the report of the
-/// losses.
+/// Carries out the current player's strike upon the territory whose number is typed in `target`. A beep when
+/// WhyNoStrike has a reason, a refusal when `target` is not the number of another player's territory,
+/// otherwise the report of the losses.
 std::variant<Beep, Refusal, Report> Strike(GameState& game, std::string_view target);
 
 }  // namespace vorlund

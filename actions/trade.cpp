@@ -41,8 +41,8 @@ std::optional<TradeOrder> CutAndCorrect(const TradeQuantities& quantities) {
     if (!force || !oil) {
         return std::nullopt;
     }
-    const auto notNegative = [](std::int16_t count) { return std::max(count, std::int16_t{0}); };
-    return TradeOrder{{notNegative(force->Troops), notNegative(force->Tanks)},
+    const auto atLeastZero = [](std::int16_t count) { return std::max(count, std::int16_t{0}); };
+    return TradeOrder{{atLeastZero(force->Troops), atLeastZero(force->Tanks)},
                       *oil < BarrelsPerDollar ? std::int16_t{0} : *oil};
 }
 

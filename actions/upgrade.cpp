@@ -30,7 +30,7 @@ constexpr TrackTerms TermsOf(Track track) {
     return {"Nuclear", &Player::NuclearLevel, NuclearPrice};
 }
 
-// The price of the level after `level`, if there is one.
+/// The price of the level after `level`, if there is one.
 std::optional<std::int16_t> NextPrice(const TrackTerms& terms, int level) {
     if (level < 0 || level >= static_cast<int>(terms.Prices.size())) {
         return std::nullopt;
@@ -39,10 +39,10 @@ std::optional<std::int16_t> NextPrice(const TrackTerms& terms, int level) {
 }
 
 struct BuildingTerms {
-    const char* Built;     // "... built in Japan."
-    const char* Building;  // "... requires a valid territory number"
-    const char* Priced;    // "... requires $180."
-    const char* Present;   // "not already have ..."
+    const char* Built;     ///< "... built in Japan."
+    const char* Building;  ///< "... requires a valid territory number"
+    const char* Priced;    ///< "... requires $180."
+    const char* Present;   ///< "not already have ..."
     bool Territory::*Flag;
     std::int16_t Price;
 };
