@@ -9,7 +9,8 @@
 namespace vorlund {
 namespace {
 
-// Refuses the rows whose names are `wrong`, naming the last of them between `before` and `after`.
+/// Refuses names that are `wrong`, with a beep for each; the prompt has the last one's row between `before`
+/// and `after`.
 template <typename Predicate>
 std::optional<NamesRefusal> RefuseRows(std::span<const std::string> names, Predicate wrong,
                                        std::string_view before, std::string_view after) {
@@ -39,9 +40,9 @@ std::optional<NamesRefusal> EnterNames(GameState& game, std::span<const std::str
     if (auto refusal = RefuseRows(names, isMissing, "Enter a name for Player ", ".")) {
         return refusal;
     }
-    const auto isLostOnSaving = [](const std::string& name) { return !NameReadsBack(name); };
+    const auto cannotBeSaved = [](const std::string& name) { return !NameReadsBack(name); };
     if (auto refusal =
-            RefuseRows(names, isLostOnSaving, "Player ", "'s name cannot be saved; enter another.")) {
+            RefuseRows(names, cannotBeSaved, "Player ", "'s name cannot be saved; enter another.")) {
         return refusal;
     }
     bool anyHuman = false;

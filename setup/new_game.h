@@ -9,10 +9,10 @@
 
 namespace vorlund {
 
-/// Says how many players take part in a new game, MinPlayers to MaxPlayers.
+/// Sets the number of players of a new game, MinPlayers to MaxPlayers.
 void SetNumPlayers(GameState& game, int players);
 
-/// The names are not accepted. `Prompt` says why; the computer beeps `Beeps` times.
+/// The names are refused. `Prompt` says why; the screen beeps `Beeps` times.
 struct NamesRefusal {
     std::string Prompt;
     int Beeps = 0;
@@ -20,11 +20,11 @@ struct NamesRefusal {
     bool operator==(const NamesRefusal&) const = default;
 };
 
-/// Enters the names of a new game's players, UTF-8 and exactly as typed, one for each of the game's
-/// `NumPlayers`. "computer" and "comp" in any mix of case make computer players, named after their number.
-/// Refused without a change: rows left empty, then names that a saved game could not give back; every such
-/// row beeps and the last one is named. When no human is left that is refused too, but names and flags stay
-/// written. Nothing when the game can go ahead, as a new one.
+/// Sets the names of a new game's players, UTF-8 as typed, one for each of the game's `NumPlayers`.
+/// "computer" and "comp" in any mix of case make a computer player, which is named after its number. Refuses,
+/// without a change, empty names and then names that a saved game cannot keep: one beep for each such row,
+/// and the prompt names the last. Refuses names without a human, too, but then names and flags have been set.
+/// Nothing on success.
 std::optional<NamesRefusal> EnterNames(GameState& game, std::span<const std::string> names);
 
 }  // namespace vorlund

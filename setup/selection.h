@@ -13,18 +13,18 @@ namespace vorlund {
 inline constexpr std::int16_t StartingTroops = 10;
 inline constexpr std::int16_t HumanStartingMoney = 100;
 
-/// The opening round of a new game: a human drawn by chance claims a territory first, then the other humans
-/// in the order of play, and at last the computer players, who keep away from every territory already taken.
-/// The game and the generator must outlive it.
+/// The selection of territories in a new game: a human drawn at random claims a territory first, then the
+/// other humans in the order of play, and last the computer players, in random territories without occupied
+/// neighbours. The game and the generator must outlive it.
 class Selection {
 public:
-    /// What an entry led to. `Message` replaces the text of the message area. The entry field is emptied in
-    /// any case; a rejection beeps, anything else has claimed land.
+    /// The result of an entry. `Message` replaces the text of the message area. The screen empties the entry
+    /// field in any case and beeps on a rejection.
     struct Step {
         enum class Kind {
             Rejected,   ///< nothing has changed, the same player selects again
-            NextHuman,  ///< CurrentPlayer selects now
-            Ended       ///< everybody has land, and CurrentPlayer, who selected first, takes the first turn
+            NextHuman,  ///< the territory is claimed, CurrentPlayer selects next
+            Ended  ///< every player has a territory; CurrentPlayer, who selected first, has the first turn
         };
         Kind What = Kind::Rejected;
         std::string Message;
@@ -34,14 +34,15 @@ public:
 
     Selection(GameState& game, Random& random) : game_(game), random_(random) {}
 
-    /// Draws the first selector, reseeding before each draw until it falls on a human (there must be one),
-    /// and returns the first message.
+    /// Draws who selects first, reseeding before each draw, until it is a human (there must be one), and
+    /// returns the first message.
     std::string Open();
 
-    /// What CurrentPlayer can select: whatever nobody holds.
+    /// The territories that CurrentPlayer can select: the unoccupied ones.
     TerritorySet Free() const;
 
     /// CurrentPlayer selects the territory whose number, 1 to 42, has been typed.
+    /// Claims for CurrentPlayer the territory whose number, 1 to 42, has been typed.
     Step Entr(std::string_view typed);
 
 private:
@@ -50,7 +51,7 @@ private:
 
     GameState& game_;
     Random& random_;
-    int picks_ = 0;  // computer players count as having picked
+    int picks_ = 0;  ///< players who have selected; computer players count from the start
 };
 
 }  // namespace vorlund
