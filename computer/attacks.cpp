@@ -13,7 +13,7 @@
 namespace vorlund {
 namespace {
 
-struct Pair {
+struct Route {
     int From;
     int To;
 };
@@ -23,7 +23,7 @@ bool StrongEnough(const Units& from, const Units& to) {
            2 * from.Tanks + from.Troops > 3 * to.Tanks + to.Troops + AttackMargin;
 }
 
-std::optional<Pair> ChooseAttack(const GameState& game) {
+std::optional<Route> ChooseAttack(const GameState& game) {
     for (int t = 0; t < NumTerritories; ++t) {
         if (!Owns(game, game.CurrentPlayer, t)) {
             continue;
@@ -32,7 +32,7 @@ std::optional<Pair> ChooseAttack(const GameState& game) {
         for (const std::int16_t neighbour : from.Neighbours) {
             if (IsEnemy(game, neighbour) &&
                 StrongEnough(from.Stationed, game.TerritoryAt(neighbour).Stationed)) {
-                return Pair{t, neighbour};
+                return Route{t, neighbour};
             }
         }
     }
@@ -49,17 +49,17 @@ std::string BattleLines(const GameState& game, const Battle& battle, bool won) {
            losses(battle.Defender.Lost) + ".\r";
 }
 
-/// True when the attack has eliminated its defender.
-bool Attack(GameState& game, Random& random, Pair pair, std::string& body) {
-    Territory& from = game.TerritoryAt(pair.From);
-    Battle battle = BeginBattle(game, pair.To, from.Stationed);
+/// True when the attack has eliminated the defender.
+bool Attack(GameState& game, Random& random, Route route, std::string& body) {
+    Territory& from = game.TerritoryAt(route.From);
+    Battle battle = BeginBattle(game, route.To, from.Stationed);
     from.Stationed = {TroopsLeftBehind, 0};
     const bool won = Fight(game, random, battle);
     body += BattleLines(game, battle, won);
     if (!won) {
         return false;
     }
-    Capture(game, pair.To, battle.Attacker.Force);
+    Capture(game, route.To, battle.Attacker.Force);
     if (!CheckDead(game, battle.Defender.Player)) {
         return false;
     }
@@ -87,11 +87,11 @@ void StrikeByComputer(GameState& game, std::string& body) {
 
 bool AttackByComputer(GameState& game, Random& random, int quota, std::string& body) {
     for (int attacks = 0; attacks < quota; ++attacks) {
-        const auto pair = ChooseAttack(game);
-        if (!pair) {
+        const auto route = ChooseAttack(game);
+        if (!route) {
             return false;
         }
-        if (Attack(game, random, *pair, body) && game.DeadPlayers == game.NumPlayers - 1) {
+        if (Attack(game, random, *route, body) && game.DeadPlayers == game.NumPlayers - 1) {
             return true;
         }
     }

@@ -5,8 +5,8 @@
 
 namespace vorlund {
 
-/// True when `neighbour`, taken from a neighbour slot, is a territory that another player than the current
-/// one holds.
+/// True when `neighbour`, from a neighbour slot or a territory index, is owned by a player other than the
+/// current one.
 inline bool IsEnemy(const GameState& game, int neighbour) {
     return neighbour != NoNeighbour && game.TerritoryAt(neighbour).Occupied &&
            game.TerritoryAt(neighbour).Owner != game.CurrentPlayer;

@@ -17,7 +17,8 @@ struct Quotas {
     int Attack;
 };
 
-/// Two claims and no attack at first; then a second claim is a matter of luck, and only in small games.
+/// How many territories may be claimed and attacked in this turn. The die for a game of two is rolled in
+/// every game, the one for a game of three unless the first has given a second claim.
 Quotas DrawQuotas(const GameState& game, Random& random) {
     if (game.Current().FirstTurn) {
         return {FirstTurnClaims, 0};
@@ -31,7 +32,7 @@ Quotas DrawQuotas(const GameState& game, Random& random) {
 
 struct Census {
     int Territories = 0;
-    int Strongest = 0;  ///< territory index; the highest among equals
+    int Strongest = 0;  ///< territory index; the highest index among equals
 };
 
 Census TakeCensus(const GameState& game) {

@@ -12,7 +12,7 @@ constexpr int DirectionFaces = 10;
 constexpr int ForwardUpTo = 4;
 constexpr int DefenseRoll = 2;
 
-/// A scan over 0 to `size` - 1 from either end.
+/// The first index of a scan, and the step to the next.
 struct Direction {
     int Start;
     int Step;
@@ -50,7 +50,7 @@ int Expand(GameState& game, Random& random, int quota, std::string& body) {
     int claims = 0;
     int cursor = territories.Start;
     while (claims < quota && cursor >= 0 && cursor < NumTerritories) {
-        // The cursor stays after a claim: the same territory may have another empty neighbour.
+        // After a claim the cursor stays, because the same territory may have another unoccupied neighbour.
         const auto target =
             Owns(game, game.CurrentPlayer, cursor) ? EmptyNeighbour(game, cursor, slots) : std::nullopt;
         if (target) {

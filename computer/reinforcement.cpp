@@ -7,8 +7,7 @@
 namespace vorlund {
 namespace {
 
-// The draws, and how each succeeds.
-constexpr int TankBonusFaces = 80;  // less the number of territories
+constexpr int TankBonusFaces = 80;  ///< less the number of territories
 constexpr int TankBonusBelow = 12;
 constexpr int QuietTankRoll = 4;
 
@@ -24,8 +23,8 @@ int CountContacts(const GameState& game) {
     return contacts;
 }
 
-/// The fewer units stand there, the likelier: always a troop up to three, then 3 in `Troops`; a tank 1 in
-/// 2 x `Tanks` + 3.
+/// Adds a troop with a chance of 3 in `Troops` (always, up to three) and a tank with one of 1 in 2 x `Tanks`
+/// + 3.
 void ReinforceQuietBorder(Units& units, Random& random) {
     if (random.Draw(units.Troops) < 3) {
         Add(units.Troops, 1);

@@ -7,12 +7,12 @@
 namespace vorlund {
 
 inline constexpr int TroopsPerTenTerritories = 12;  ///< in the pool
-inline constexpr int QuietTankFaces = 7;  ///< without an enemy at the borders, one of them is a tank
+inline constexpr int QuietTankFaces = 7;            ///< one of them gives a tank, without an enemy neighbour
 
-/// Gives the current player, a computer with `territoryCount` territories, its new units of the turn. A pool
-/// of 1.2 troops a territory, rounded down, is shared out over the borders with enemies, and other borders
-/// have a chance of a troop and a tank each; without an enemy at the borders each territory gets an even
-/// share and one more. Units stop at the end of their range.
+/// Adds the turn's new units of the current player, a computer with `territoryCount` territories. A pool
+/// of 1.2 troops for each territory, rounded down, is divided among its borders with enemies, and each other
+/// border may bring a troop and a tank; without an enemy neighbour each territory gets an equal share of the
+/// pool plus one troop. Counts saturate.
 void Reinforce(GameState& game, Random& random, int territoryCount);
 
 }  // namespace vorlund
