@@ -22,17 +22,17 @@ std::string CouldNot(const std::string& file, const std::string& what, const std
     return "The game '" + file + "' could not be " + what + ".\r" + why;
 }
 
-/// True when an error says that there is no file of that path.
+/// True for the errors that mean that the file does not exist.
 bool IsAbsence(int error) {
     return error == ENOENT || error == ENOTDIR;
 }
 
 std::string NameOf(FileKind kind) {
-    constexpr std::array<const char*, 5> names{"file", "folder", "pipe", "socket", "device"};
-    return names[static_cast<std::size_t>(kind)];
+    constexpr std::array<const char*, 5> Names{"file", "folder", "pipe", "socket", "device"};
+    return Names[static_cast<std::size_t>(kind)];
 }
 
-/// Why `bytes` would not give `game` back; nothing when they do.
+/// Why reading `bytes` does not return `game`; nothing when it does.
 std::optional<std::string> WhyNotReadable(const GameState& game, const std::string& bytes) {
     const auto readBack = ReadGame(game, bytes);
     if (const auto* const bad = std::get_if<BadFile>(&readBack)) {

@@ -11,12 +11,12 @@
 
 namespace vorlund {
 
-/// How Save has ended, with a text for the player.
+/// The result of Save, with a text for the player.
 struct SaveResult {
     enum class Kind {
-        Saved,         ///< and on the disk
-        SavedInDoubt,  ///< but it may not outlast a power cut
-        AlreadyThere,  ///< nothing has changed: a game of that name is there, and was not to be overwritten
+        Saved,         ///< written and flushed to the disk
+        SavedInDoubt,  ///< written, but flushing failed: a power failure may lose the new file
+        AlreadyThere,  ///< nothing has changed: the file exists and `overwrite` was false
         NotSaved       ///< nothing has changed
     };
     Kind Outcome;
@@ -27,51 +27,52 @@ struct SaveResult {
 
 /// A saved game could not be loaded; nothing has changed.
 struct LoadError {
-    std::string Message;  ///< for the player: the file, and the system's reason or the line and what is wrong
+    std::string Message;  ///< for the player: the file, and the system's error or the bad line and its fault
 
     bool operator==(const LoadError&) const = default;
 };
 
-/// There is no saved game of that name, or no longer.
+/// The file does not exist.
 struct NoSuchGame {};
 
-/// The saved games, in alphabetical order whatever the case.
+/// The saved games, sorted by name without regard to case.
 struct SavedGamesList {
     std::vector<std::string> Files{};
-    std::optional<std::string> Error{};  ///< why there may be more
+    std::optional<std::string> Error{};  ///< why the list may be incomplete
 };
 
-/// The folder of the saved games. It need not exist: it is made at the first save. Files are named by their
-/// bare name, as FileNameOf and List give it. Every error is a text for the player that names the file and
-/// the system's reason; lines are joined by a carriage return.
+/// The folder of the saved games. It need not exist: the first save makes it. Files are given by name, as
+/// FileNameOf and List return it. An error is a text for the player with the file and the system's error; its
+/// lines are separated by carriage returns.
 class SavedGamesFolder {
 public:
     /// `path` without a slash at its end.
     explicit SavedGamesFolder(std::string path, SystemCalls calls = RealSystemCalls());
 
-    /// What can be loaded. What cannot be looked at is listed: loading it says why.
+    /// The files that Load may be asked for. One whose kind cannot be determined is listed; loading it fails
+    /// with the error.
     SavedGamesList List() const;
 
-    /// Saves `game`, whose turn a living human has, as `file`, replacing what was saved there if `overwrite`
-    /// says so. Whatever happens on the way, crash included, the file is the old game or the new one, whole.
+    /// Saves `game`, in which a living human has the turn, as `file`; replaces an existing file only if
+    /// `overwrite` is true. At every moment, even after a crash, the file is the complete old or the complete
+    /// new game.
     SaveResult Save(const std::string& file, const GameState& game, bool overwrite) const;
 
-    /// The game in `file` over `fresh`, as ReadGame gives it.
+    /// The game in `file`, read over `fresh` by ReadGame.
     std::variant<GameState, NoSuchGame, LoadError> Load(const std::string& file,
                                                         const GameState& fresh) const;
 
-    /// Deletes `file` and no other, and of a link the link alone. Nothing when it is gone, otherwise the
-    /// error.
+    /// Deletes exactly `file`; of a symbolic link only the link. Nothing on success, otherwise the error.
     std::optional<std::string> Delete(const std::string& file) const;
 
 private:
     std::string PathOf(const std::string& file) const { return path_ + "/" + file; }
 
-    /// Whether a plain file of exactly this path exists. Nothing when that cannot be told, or when something
-    /// else is there; `whyNot` says so.
+    /// Whether a regular file exists at `path`. Nothing, with the reason in `whyNot`, when that cannot be
+    /// determined or something else is there.
     std::optional<bool> FileExists(const std::string& path, std::string& whyNot) const;
 
-    /// Reads as much of the file as may be a game. 0 or the system's number of the error.
+    /// Reads the first MaxSavedGameBytes of the file. Returns 0 or an errno value.
     int ReadStart(const std::string& path, std::string& bytes) const;
 
     std::string path_;

@@ -53,7 +53,7 @@ std::vector<std::string_view> SplitIntoLines(std::string_view bytes) {
 std::optional<int> ReadInteger(std::string_view line) {
     line = Trimmed(line);
     if (line.find_first_not_of("0123456789+-") != std::string_view::npos) {
-        return std::nullopt;  // from_chars is only sure of itself with ASCII
+        return std::nullopt;  // bytes above 127 make libstdc++'s from_chars convert with a change of sign
     }
     if (line.starts_with('+') && !line.starts_with("+-")) {
         line.remove_prefix(1);
@@ -77,7 +77,8 @@ std::optional<bool> ReadBoolean(std::string_view line) {
     return number ? std::optional<bool>(*number != 0) : std::nullopt;
 }
 
-/// The text without the blanks before it and up to a comma, or what stands between double quotes.
+/// The text after leading spaces: between double quotes if it starts with one, otherwise up to a comma.
+/// Nothing when the closing quote is missing.
 std::optional<std::string> ReadText(std::string_view line) {
     line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
     if (!line.starts_with('"')) {
@@ -91,7 +92,7 @@ std::optional<std::string> ReadText(std::string_view line) {
     return FromWindows1252(line.substr(0, end));
 }
 
-/// Reads the lines one after the other and stops at the first that does not hold what it should.
+/// The visitor that reads a line for each value and stops at the first bad one.
 class Reader {
 public:
     explicit Reader(std::string_view bytes) : lines_(SplitIntoLines(bytes.substr(0, MaxSavedGameBytes))) {}
@@ -144,18 +145,18 @@ private:
     BadFile bad_;
 };
 
-/// Counts the lines before the one that holds a field of the game.
+/// The visitor that finds the line of a field of the game.
 struct LineCounter {
     const void* Field = nullptr;
     int Line = 1;
 
     bool Integer(const std::int16_t& value, const char*, const std::string&, std::int16_t, std::int16_t) {
-        return Passes(&value);
+        return Skip(&value);
     }
-    bool Boolean(const bool& value, const char*, const std::string&) { return Passes(&value); }
-    bool Name(const std::string& value, const char*, const std::string&) { return Passes(&value); }
+    bool Boolean(const bool& value, const char*, const std::string&) { return Skip(&value); }
+    bool Name(const std::string& value, const char*, const std::string&) { return Skip(&value); }
 
-    bool Passes(const void* field) {
+    bool Skip(const void* field) {
         const bool found = field == Field;
         Line += found ? 0 : 1;
         return !found;

@@ -7,17 +7,17 @@
 
 namespace vorlund {
 
-// The name that the player gives to a saved game, UTF-8 throughout, and what the screens say about it.
+// Names of saved games in UTF-8, and the texts of the save and load screens that contain them.
 
-/// Why no game can be saved under `typedName`, as a text for the player: nothing was typed, or it holds one
-/// of \ / : * ? " < > |, a control character or no whole character. Nothing when it can. A name of blanks can
-/// be used.
+/// Why no game can be saved under `typedName`, as a text for the player: it is empty, contains one of
+/// \ / : * ? " < > | or a control character, or is not valid UTF-8. Nothing when it can be used, as a name of
+/// spaces can.
 std::optional<std::string> WhyNoGameName(std::string_view typedName);
 
-/// The file of the game `typedName`: without the blanks around it, in lower case, and with ".vrs" behind.
+/// The file of the game `typedName`: trimmed, in lower case, with ".vrs" appended.
 std::string FileNameOf(std::string_view typedName);
 
-/// True for the files that the load screen lists: "*.vrs", case by case as written; ".vrs" alone counts.
+/// True for the files that the load screen lists: "*.vrs", case-sensitive; ".vrs" alone matches.
 bool IsSavedGameFile(std::string_view file);
 
 inline constexpr const char* OverwriteQuestion =

@@ -11,13 +11,13 @@
 
 namespace vorlund {
 
-// The order of the lines in a saved game, once for the writer and the reader. A visitor is shown each value
-// with its name, whose it is and its range, and answers false to end the visit.
+// The lines of a saved game in their order, for the writer and the reader. A visitor is called for each value
+// with its name, its owner in texts and its range; it returns false to stop.
 
 inline constexpr std::int16_t LowestInt16 = std::numeric_limits<std::int16_t>::min();
 inline constexpr std::int16_t HighestInt16 = std::numeric_limits<std::int16_t>::max();
 
-/// Totals may be anything: those of computer players lag behind what they own, even below zero.
+/// Totals have the full range: a computer player's may be negative.
 template <typename PlayerType, typename Visitor>
 bool VisitPlayer(PlayerType& player, const std::string& whose, Visitor& visitor) {
     return visitor.Integer(player.AttacksLeft, "AttacksLeft", whose, 0, 2) &&
@@ -48,7 +48,7 @@ bool VisitTerritory(TerritoryType& territory, const std::string& whose, Visitor&
            visitor.Integer(territory.Stationed.Troops, "Troops", whose, 0, HighestInt16);
 }
 
-/// Shows every value of `game` to `visitor`, in file order. False when the visitor ended the visit.
+/// Calls `visitor` for every value of `game`, in file order. False when the visitor stopped.
 template <typename Game, typename Visitor>
 bool VisitGame(Game& game, Visitor& visitor) {
     if (!visitor.Integer(game.NumPlayers, "NumPlayers", "the game", MinPlayers, MaxPlayers)) {

@@ -7,8 +7,8 @@
 namespace vorlund {
 namespace {
 
-// The bytes go into an unfinished file beside the target, which then takes the target's name. Its writer
-// holds a lock on it, so that one without a lock was left behind by a crash and can go.
+// The bytes are written into an unfinished file beside the target, which is then renamed to the target. Its
+// writer holds a lock on it, so that one without a lock is known to be left by a crash and can be removed.
 constexpr std::string_view UnfinishedStart = "unfinished-";
 constexpr std::string_view UnfinishedEnd = ".tmp";
 
@@ -19,7 +19,7 @@ struct Unfinished {
     std::string Name{};
     std::string Path{};
     int File = -1;
-    int Lock = -1;  ///< a second descriptor, since File is closed before the file gets its name
+    int Lock = -1;  ///< a second descriptor, since File is closed before the file is renamed
 };
 
 bool IsUnfinished(std::string_view name) {
@@ -39,7 +39,7 @@ std::string Inside(const std::string& folder, const std::string& name) {
     return folder + "/" + name;
 }
 
-/// Makes `path` the one that it leads to, when it is a link. 0 or the error.
+/// Replaces `path` by what it leads to while it is a symbolic link. Returns 0 or the error.
 int FollowLinks(const SystemCalls& calls, std::string& path) {
     for (int links = 0; links < MostLinks; ++links) {
         std::string target;
@@ -51,8 +51,8 @@ int FollowLinks(const SystemCalls& calls, std::string& path) {
     return ELOOP;
 }
 
-/// A descriptor that holds the lock on the file `path`. -1 with ENOENT or EWOULDBLOCK in errno when the file
-/// belongs to somebody else: it has gone, or another process holds it.
+/// A descriptor that holds the lock on the file `path`. -1 with errno ENOENT when the file has been removed,
+/// or EWOULDBLOCK when another process holds the lock.
 int LockFile(const SystemCalls& calls, const std::string& path) {
     const int file = Repeat([&] { return calls.OpenForLocking(path); });
     if (file == -1) {
@@ -60,7 +60,7 @@ int LockFile(const SystemCalls& calls, const std::string& path) {
     }
     int error = ErrorOf(Repeat([&] { return calls.Lock(file); }));
     if (error == 0) {
-        // Whoever had the lock before may have removed the file.
+        // The process that held the lock before may have removed the file.
         const int named = Repeat([&] { return calls.IsNamed(file, path); });
         error = named == 0 ? ENOENT : ErrorOf(named);
     }
@@ -72,7 +72,7 @@ int LockFile(const SystemCalls& calls, const std::string& path) {
     return -1;
 }
 
-/// Removes the unfinished files that nobody writes any more. One that cannot be removed is in nobody's way.
+/// Removes the unfinished files that no process has locked. Errors are ignored: such a file disturbs nothing.
 void RemoveLeftovers(const SystemCalls& calls, const std::string& folder) {
     std::vector<std::string> names;
     Repeat([&] { return calls.ListFolder(folder, names); });
@@ -91,7 +91,7 @@ void RemoveLeftovers(const SystemCalls& calls, const std::string& folder) {
     }
 }
 
-/// Makes the unfinished file, empty. 0 or the error.
+/// Creates the unfinished file, empty and locked. Returns 0 or the error.
 int Begin(const SystemCalls& calls, const std::string& folder, Unfinished& fresh) {
     for (int number = 1; number <= MostUnfinished; ++number) {
         fresh.Name = std::string(UnfinishedStart) + std::to_string(calls.Process) + "-" +
@@ -106,9 +106,9 @@ int Begin(const SystemCalls& calls, const std::string& folder, Unfinished& fresh
         }
         fresh.Lock = LockFile(calls, fresh.Path);
         if (fresh.Lock != -1 || (errno != ENOENT && errno != EWOULDBLOCK)) {
-            return 0;  // where files cannot be locked, nobody removes them either
+            return 0;  // where files cannot be locked, other copies cannot lock and remove it either
         }
-        // Another copy has taken it for a leftover, in the moment before it was locked.
+        // Another copy took it for a leftover in the moment before it was locked.
         CloseFile(calls, fresh.File);
     }
     return EEXIST;
@@ -125,7 +125,7 @@ int WriteAll(const SystemCalls& calls, int file, std::string_view bytes) {
     return 0;
 }
 
-/// Writes `bytes` to the open `file`, brings them to the disk and closes it.
+/// Writes `bytes` to the open `file`, flushes it to the disk and closes it. Returns 0 or the first error.
 int Fill(const SystemCalls& calls, int file, const std::string& bytes) {
     int error = WriteAll(calls, file, bytes);
     if (error == 0) {
@@ -135,8 +135,8 @@ int Fill(const SystemCalls& calls, int file, const std::string& bytes) {
     return error != 0 ? error : closeError;
 }
 
-/// Adds the folders in which one was made to `changed`. One call for each folder of the path, and none above
-/// its root. NOLINTNEXTLINE(misc-no-recursion)
+/// Makes the folder `path`, with its parents if need be, and appends to `changed` each folder in which one
+/// was made. Returns 0 or the error. The recursion ends at the root. NOLINTNEXTLINE(misc-no-recursion)
 int MakeFolderWithParents(const SystemCalls& calls, const std::string& path,
                           std::vector<std::string>& changed) {
     const auto make = [&] { return ErrorOf(Repeat([&] { return calls.MakeFolder(path); })); };
@@ -151,11 +151,12 @@ int MakeFolderWithParents(const SystemCalls& calls, const std::string& path,
     return error == EEXIST ? 0 : error;
 }
 
-/// Brings the names in a folder to the disk, where the file system can do that. `file` is one in it.
+/// Flushes the names in a folder to the disk, if the file system can do that. `file` is a descriptor of a
+/// file in it or -1.
 int SyncFolder(const SystemCalls& calls, const std::string& path, int file) {
     const int folder = Repeat([&] { return calls.OpenFolder(path); });
     if (folder == -1) {
-        // A folder that may be written but not read cannot be opened for it.
+        // A folder with write but no read permission cannot be opened; the whole file system can be flushed.
         const int error = errno;
         return file != -1 && Repeat([&] { return calls.SyncFileSystem(file); }) == 0 ? 0 : error;
     }
@@ -178,7 +179,7 @@ Written WriteSafely(const SystemCalls& calls, const std::string& path, const std
     RemoveLeftovers(calls, folder);
     Unfinished fresh;
     result.Error = Begin(calls, folder, fresh);
-    // A link into nowhere is left so: what it leads to may be a disk that is not plugged in.
+    // The folder behind a dangling link is not made: it may be on a disk that is not mounted.
     if (result.Error == ENOENT && result.Target == path) {
         result.Error = MakeFolderWithParents(calls, folder, changed);
         result.Error = result.Error == 0 ? Begin(calls, folder, fresh) : result.Error;

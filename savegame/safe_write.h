@@ -7,18 +7,18 @@
 
 namespace vorlund {
 
-/// How writing a file has ended. The errors are the system's numbers, 0 for none.
+/// The result of writing a file. Errors are errno values, 0 for none.
 struct Written {
-    int Error = 0;             ///< why the file is what it was before
-    int Doubt = 0;             ///< the file is the new one, but this may keep it from outlasting a power cut
-    std::string Target{};      ///< the path of the file itself, behind all links
-    std::string LeftBehind{};  ///< the name of the unfinished file, when an error keeps it there
-    int WhyLeft = 0;           ///< and that error
+    int Error = 0;         ///< why the file was not replaced
+    int Doubt = 0;         ///< why the new file may not survive a power failure: flushing its folder failed
+    std::string Target{};  ///< the path with symbolic links resolved
+    std::string LeftBehind{};  ///< the name of the unfinished file, if it could not be removed after an error
+    int WhyLeft = 0;           ///< why it could not be removed
 };
 
-/// Writes `bytes` as the file `path`, making its folder if need be; where `path` is a link, as the file
-/// behind it. At every moment, whatever fails and whoever writes beside, that is the old file or the new
-/// one, whole.
+/// Writes `bytes` as the file `path`, or as the file that a symbolic link there leads to, and makes its
+/// folder if need be. At every moment, whatever call fails and whatever other processes write, the file is
+/// the complete old or the complete new one.
 Written WriteSafely(const SystemCalls& calls, const std::string& path, const std::string& bytes);
 
 }  // namespace vorlund

@@ -66,7 +66,7 @@ int ListFolder(const std::string& path, std::vector<std::string>& names) {
 }
 
 auto Opener(int flags) {
-    // A pipe of that name must not keep the game waiting.
+    // Without O_NONBLOCK, opening a pipe would block.
     return [flags](const std::string& path) {
         return open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, FileMode);
     };

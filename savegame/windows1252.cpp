@@ -9,21 +9,21 @@
 namespace vorlund {
 namespace {
 
-constexpr char32_t FirstOwn = 0x80;
+constexpr char32_t FirstRemapped = 0x80;
 
-/// Bytes 0x80 to 0x9F. All others have the number of their character.
-constexpr std::array<char32_t, 32> Own{
+/// The characters of bytes 0x80 to 0x9F. Every other byte is the character of the same value.
+constexpr std::array<char32_t, 32> Remapped{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
 std::optional<char> ByteOf(char32_t character) {
-    const auto own = std::find(Own.begin(), Own.end(), character);
-    if (own != Own.end()) {
-        return static_cast<char>(FirstOwn + static_cast<char32_t>(own - Own.begin()));
+    const auto found = std::find(Remapped.begin(), Remapped.end(), character);
+    if (found != Remapped.end()) {
+        return static_cast<char>(FirstRemapped + static_cast<char32_t>(found - Remapped.begin()));
     }
-    if (character < FirstOwn || (character >= FirstOwn + Own.size() && character <= 0xFF)) {
+    if (character < FirstRemapped || (character >= FirstRemapped + Remapped.size() && character <= 0xFF)) {
         return static_cast<char>(character);
     }
     return std::nullopt;
@@ -51,8 +51,8 @@ std::string FromWindows1252(std::string_view bytes) {
     std::u32string characters;
     for (const char c : bytes) {
         const char32_t byte = static_cast<unsigned char>(c);
-        const bool own = byte >= FirstOwn && byte < FirstOwn + Own.size();
-        characters += own ? Own[byte - FirstOwn] : byte;
+        const bool isRemapped = byte >= FirstRemapped && byte < FirstRemapped + Remapped.size();
+        characters += isRemapped ? Remapped[byte - FirstRemapped] : byte;
     }
     return EncodeUtf8(characters);
 }
