@@ -18,9 +18,8 @@ struct SystemCalls {
 
     std::function<int(const std::string& path)> OpenForReading;  ///< returns a file descriptor
     std::function<int(const std::string& path)> CreateNew;       ///< for writing; EEXIST if the file exists
-    std::function<int(const std::string& path)>
-        OpenForLocking;                                      ///< an existing file; fails on a symbolic link
-    std::function<int(const std::string& path)> OpenFolder;  ///< for Sync
+    std::function<int(const std::string& path)> OpenForLocking;  ///< an existing file, no symbolic link
+    std::function<int(const std::string& path)> OpenFolder;      ///< for Sync
     std::function<long(int file, char* into, std::size_t size)> Read;
     std::function<long(int file, const char* from, std::size_t size)> Write;
     std::function<int(int file)> Sync;
@@ -28,8 +27,7 @@ struct SystemCalls {
     std::function<int(int file)> Close;
     /// Locks the file until the descriptor is closed or the process ends. EWOULDBLOCK if another process has.
     std::function<int(int file)> Lock;
-    std::function<int(int file, const std::string& path)>
-        IsNamed;  ///< 1 when `path` is this file, otherwise 0
+    std::function<int(int file, const std::string& path)> IsNamed;  ///< 1 when `path` is this file, or 0
     std::function<int(const std::string& from, const std::string& to)> Rename;  ///< replaces `to` atomically
     std::function<int(const std::string& path)> Unlink;
     std::function<int(const std::string& path)> MakeFolder;
