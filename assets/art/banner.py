@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The banner that is laid over the board when the game is over and hides what lies under it: a
-dark sheet with a globe in laurel."""
+"""The banner that is laid over the board when the game is over and hides it: a dark
+sheet with a globe in a laurel wreath."""
 import math
 
 import lettering

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Measures the pictures that were made: sizes, the contrast of every text colour on the
-grounds, the markers' colours and their difference in grey, the title's clean cut."""
+"""Checks the pictures: sizes, the contrast of every text colour on the grounds, the markers'
+colours and their difference in grey, the black edges of the title picture."""
 import collections
 import sys
 
@@ -35,7 +35,7 @@ def colour_contrast(one, other):
 
 
 def worst_contrast(image, text):
-    """Of a text colour against every pixel of the image."""
+    """The lowest contrast of a text colour with any pixel of the image."""
     behind = max(luminance(c) for _, c in image.convert('RGB').getcolors(1 << 24))
     return (luminance(text) + .05) / (behind + .05)
 
@@ -74,7 +74,7 @@ def check(faults):
             image = load('marker%d' % index, scale).convert('RGB')
             most = max(image.getcolors())[1]
             need('#%02X%02X%02X' % most == colour, 'marker%d is mostly %s' % (index, most))
-            # The emblem as a stencil: whatever stands off the colour by its lightness alone.
+            # The emblem's mask: the pixels that differ from the marker's colour in lightness.
             inside = image.crop(tuple(scale * v for v in (1, 1, 9, 9)))
             greys.append([abs(luminance(c) - luminance(most)) > .04 for c in inside.getdata()])
             need(any(greys[-1]), 'marker%d has no emblem in grey' % index)

@@ -39,7 +39,7 @@ class Globe:
         y = math.cos(self.lat) * math.sin(p) - math.sin(self.lat) * math.cos(p) * math.cos(l)
         z = math.sin(self.lat) * math.sin(p) + math.cos(self.lat) * math.cos(p) * math.cos(l)
         if z < 0:
-            # The far side is pressed out to the limb, so outlines stay closed.
+            # Points on the far side are moved to the edge of the disc, so that outlines stay closed.
             reach = math.hypot(x, y) or 1
             x, y = x / reach, y / reach
         return self.cx + self.r * x, self.cy - self.r * y, z >= 0

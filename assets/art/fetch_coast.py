@@ -13,7 +13,7 @@ import tempfile
 from shapely.geometry import Polygon
 from shapely.ops import unary_union
 
-TOLERANCE = 0.12      # degrees that a simplified coast may stray
+TOLERANCE = 0.12      # degrees, the tolerance of the simplification
 SMALLEST = 0.25       # square degrees; islets below it are left out
 
 
@@ -42,7 +42,7 @@ def countries(world):
             points += arc[1:] if points else arc
         xs = [x for x, _ in points]
         beyond = xs and max(xs) - min(xs) > 300 and points[0][1] > -60
-        # Russia and Fiji cross 180 degrees; their east is carried on beyond it.
+        # Russia and Fiji cross 180 degrees; their eastern parts get longitudes above 180.
         return [(x + 360 if beyond and x < 0 else x, y) for x, y in points]
 
     for shape in world['objects']['countries']['geometries']:

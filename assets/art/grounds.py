@@ -8,7 +8,7 @@ from earth import Chart, Globe
 from ink import around, circle_path, fill, number, picture, polyline, ring, stroke
 
 BLACK = '#010308'
-LAMP = '#0a1524'        # the ground where a motif stands
+LAMP = '#0a1524'        # the lit ground behind a motif
 FINE, LINE, STRONG = '#101d2c', '#17283a', '#21374c'
 LAND = '#0b1724'
 WARM = '#3d3520'
@@ -54,7 +54,7 @@ def neatline(width, height):
 
 def ground(name, width, height, light, motif, strips=(), fade=None):
     """`light` is (x, y, r) of the lamp, `fade` of the motif's mask (the lamp's if none is
-    given); `strips` are (top, bottom) of the lines kept black, with soft shores."""
+    given); `strips` are (top, bottom) of the lines kept black, with soft edges."""
     bands = ''
     for top, bottom in strips:
         bands += '<rect y="%d" width="%d" height="%d" fill="#000"/>' % (top, width, bottom - top)

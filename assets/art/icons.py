@@ -5,7 +5,7 @@ from earth import Chart
 from ink import CREAM, ICONS, document, fill, rasterise, stroke
 
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
-SAVED_GAME = 'application-x-vorlund-saved-game'  # the name that desktops derive from its type
+SAVED_GAME = 'application-x-vorlund-saved-game'  # desktops derive this name from the MIME type
 RED, BORDER = '#e0281e', '#0b1622'
 
 SEA = ('<linearGradient id="sea" x2="0" y2="1"><stop offset="0" stop-color="#3c627d"/>'
@@ -61,7 +61,7 @@ def tile():
 
 def small_saved_game(size):
     (left, top, right, bottom), fold, tile_box, letter, (x, y, side) = SMALL_SAVED_GAME[size]
-    left, top, right, bottom = left + .5, top + .5, right - .5, bottom - .5  # the middle of its edge
+    left, top, right, bottom = left + .5, top + .5, right - .5, bottom - .5  # the centre line of the outline
     edge = 'stroke="%s" stroke-linejoin="bevel"' % PAPER_EDGE
     return document(size, size, [
         '<defs>' + SEA + '</defs>',

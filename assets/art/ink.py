@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The pens shared by every picture: colours, SVG snippets and the way to a PNG."""
+"""Shared by all pictures: colours, SVG snippets and the conversion to PNG."""
 import math
 import pathlib
 import subprocess
@@ -61,8 +61,8 @@ def document(width, height, body, box=None):
 
 
 def rasterise(svg, png, width, height, tones=0):
-    """`tones` other than 0 keeps that many colours at most: a ground of a few hundred near
-    blacks loses nothing the eye can see and a third of its bytes."""
+    """`tones` other than 0 reduces the colours to that number: a ground has few colours, so the
+    loss is invisible and the file a third smaller."""
     png.parent.mkdir(parents=True, exist_ok=True)
     subprocess.run(['rsvg-convert', '-w', str(width), '-h', str(height), '-o', str(png)],
                    input=svg.encode(), check=True)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Engraved capitals for the banner, drawn letter by letter: broad stems, fine hairlines and
-flat serifs on a cap height of 100. Only the letters the game needs are cut."""
+flat serifs on a cap height of 100. Only the letters that are needed exist."""
 import math
 
 STEM, HAIR, SERIF = 19.0, 6.0, 8.0

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Player markers and building icons. At scale 1 every pixel is set by hand, at scale 2 the
-same design is drawn as paths. A player is told by the emblem as well as by the colour:
+same design is drawn as paths. Players differ by emblem as well as by colour:
 lozenge, ring, saltire, bars, chevron."""
 from ink import PICTURES, PLAYERS, document, fill, rasterise
 

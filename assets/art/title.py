@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The title picture: the earth at dawn over the game's name, in the lettering of the board's map,
-on the black of the title window. The window cuts it to the left 208 columns, so that is where the
-composition ends; nothing but black touches an edge."""
+on the black of the title window. The window cuts it to the left 208 columns, so the picture
+is composed within them and its edges are black."""
 import random
 
 from earth import Globe
@@ -22,7 +22,7 @@ def stars():
         fade = min(1, min(x - FIRST, LAST - x) / 30)
         if far < R + 9 or rng.random() > fade:
             continue
-        # On whole pixels a star is a point, not a smudge.
+        # At whole pixels, so that antialiasing does not blur it.
         size = 1 if bright > .5 else .5
         x, y = round(x), round(y)
         colour = ('#ffffff', '#cfe0f2', '#f6e3bd')[len(out) % 3]
@@ -32,7 +32,7 @@ def stars():
 
 
 def orbit(front):
-    """A thin course round the globe; the part behind it is hidden by the globe itself."""
+    """An orbit around the globe, which hides the part behind it."""
     half = 'M%d 0A68 13.6 0 0 %d %d 0' % (-68, 0 if front else 1, 68)
     place = 'transform="translate(%d %d) rotate(-12)"' % (CX, CY)
     out = ['<g %s>%s</g>' % (place, stroke(half, BRASS, .7, .75 if front else .4, 'stroke-dasharray="4 3"'))]

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Proofs about the printed map that need its geometry or its pixels. Each returns a list of faults."""
+"""Checks of the map that need its geometry or its pixels. Each returns a list of faults."""
 import numpy as np
 from shapely.geometry import LineString, Point, box
 from shapely.ops import unary_union
@@ -17,7 +17,7 @@ MARKER = (-10, 0, 10, 10)           # with the icon beside it
 ROUTE_SEEN = 4.0                    # pixels of every sea route that nothing may cover
 ON_OTHERS = .35                     # share of a badge that may lie on the land of others
 POINTER = 4.5                       # pixels between the edge of a badge and its land
-LIKE = 20                           # in CIE Lab: colours that are nearer are taken for one another
+LIKE = 20                           # distance in CIE Lab below which colours count as alike
 
 
 def around(entry, sides):
@@ -37,7 +37,7 @@ def derricks():
 
 
 def board_pictures():
-    """What the program lays over the map at most: [(what, box)]."""
+    """All that the program may draw over the map: [(what, box)]."""
     return ([('the marker of %d' % t, around(entry, MARKER)) for t, entry in WORLD.items()]
             + [('the count of %d' % t, around(entry, COUNT)) for t, entry in WORLD.items()])
 
@@ -88,7 +88,7 @@ def covered_signs():
 
 
 def lost_signs(land):
-    """Badges that do not belong to their land at a glance, derricks off their land."""
+    """Badges too far from their territory or mostly on others, derricks outside their territory."""
     faults = []
     for t, shape in badges().items():
         others = sum(shape.intersection(land[other]).area for other in land if other != t) / shape.area
@@ -119,7 +119,7 @@ def hidden_routes(land, warp):
 
 
 def land_and_sea(image, land):
-    """What is painted under the map is seen on land and nowhere else."""
+    """The map must be transparent on land and opaque everywhere else."""
     alpha = np.array(image)[..., 3] / 255
     scale = image.width // 750
     coverage = picture.rasterise(drawing.coverage(land), scale)[..., 3] / 255
@@ -132,7 +132,7 @@ def land_and_sea(image, land):
 
 
 def like_owners(image, land):
-    """Owners whose land looks alike, as printed, to one kind of eye."""
+    """Owners whose land has too similar colours for one kind of colour vision."""
     scale = image.width // 750
     on_land = picture.rasterise(drawing.coverage(land), scale)[..., 3] == 255
     over = np.array(image, float)[on_land]

@@ -22,13 +22,13 @@ def document(parts):
 
 
 def coverage(land):
-    """Where there is land. The stroke closes the seam between neighbours' soft edges."""
+    """The mask of the land. The stroke closes the seams between the antialiased edges of neighbours."""
     return document(['<path d="%s" stroke="#000" stroke-width=".5"/>' % looks.closed_path(rings_of(shape))
                      for shape in land.values()])
 
 
 def land_marks(land, lakes, rivers):
-    """What is printed on the land whoever holds it: a lighter band along each territory's edge, fresh water."""
+    """The ink on land, whoever owns it: a lighter band along each territory's edge, lakes and rivers."""
     out = ['<defs>']
     for t, shape in land.items():
         out.append('<path id="t%d" d="%s"/><clipPath id="c%d"><use href="#t%d"/></clipPath>'
@@ -97,7 +97,7 @@ def draw_routes(land, warp):
 
 
 def frame():
-    """The line that a printed map has around it."""
+    """The frame of the map."""
     edge = '<rect x="%g" y="%g" width="%g" height="%g" fill="none" stroke="%s" stroke-width="%g" %s/>'
     return [edge % (1.5, 1.5, 747, 425.6, '#060c14', 3, 'stroke-opacity=".6"'),
             edge % (2, 2, 746, 424.6, looks.BRASS, 1.6, 'stroke-opacity=".42" stroke-dasharray="25 25"'),
@@ -117,7 +117,7 @@ def cartouche(x, y):
 
 
 def round_signs():
-    """Where the route round the edge of the map leads to."""
+    """The signs at both edges of the map that say where the route around it leads."""
     out = []
     for x, sign, number in ((17, -1, 29), (733, 1, 1)):
         out.append(looks.text(x + (2 if sign < 0 else -2), 47, number, 9, looks.ROUTE_COLOUR,

@@ -12,7 +12,7 @@ STEP = 0.6            # degrees between points before the warp, so that it can b
 DETAIL = 0.16         # square pixels: a smaller triangle is no detail
 SMALLEST_ISLAND = 2.2 # square pixels
 SMALLEST_LAKE = 3.0
-MEETING = 1.0         # pixels: what is shorter and joins no neighbours is a point where four meet
+MEETING = 1.0         # pixels: a shorter border between territories that are no neighbours becomes a point
 
 
 def densify(line):
@@ -90,7 +90,7 @@ def borders(territories):
 
 
 def collapse(arcs):
-    """Draws the place where four territories meet, two pairs of them no neighbours, as one point."""
+    """Merges into one point each short border between territories that are no neighbours, where four meet."""
     needless = [(pair, line) for pair, lines in arcs.items() if pair[0] and pair not in PAIRS
                 for line in lines if LineString(line).length < MEETING]
     meetings = [line[0] for _, line in needless]

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Prints the layers over one another."""
+"""Composites the layers."""
 import io
 import pathlib
 import subprocess
@@ -55,8 +55,8 @@ def lay_pictures(canvas, scale):
 
 
 class Printer:
-    """The layers of one map, to be printed at several scales. Land lets through what is painted under it: that is
-    its holder's colour, which only the program knows. Sea, ink and signs hide it."""
+    """The layers of the map, for output at several scales. Land is translucent, because the program paints the
+    owner's colour under it; sea, ink and signs are opaque."""
 
     def __init__(self, land, arcs, lakes, rivers, warp):
         self._coverage = drawing.coverage(land)

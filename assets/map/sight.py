@@ -1,6 +1,6 @@
 #!/usr/bin/python3 -B
 # SPDX-License-Identifier: MIT
-"""Colours as eyes see them. `./sight.py PICTURE FOLDER` shows a picture of the board in grey and to protan, deutan and
+"""Simulates colour vision deficiencies. `./sight.py PICTURE FOLDER` shows a picture of the board in grey and to protan, deutan and
 tritan eyes."""
 import pathlib
 import re
@@ -31,7 +31,7 @@ def owner_tints():
 
 
 def seen(pixels, eye):
-    """Colours from 0 to 255 as an eye, a matrix on linear light, sees them."""
+    """Colours from 0 to 255 transformed by `eye`, a matrix on linear light."""
     share = pixels / 255
     linear = np.where(share <= .04045, share / 12.92, ((share + .055) / 1.055) ** 2.4)
     linear = np.clip(linear @ eye.T, 0, 1)

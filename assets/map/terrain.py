@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Where the earth rises and falls, as lines in degrees: the crests that the relief is modelled on."""
+"""The mountain ranges, sea ridges and trenches that the relief is computed from, as lines in degrees."""
 
 # Width of the slopes in pixels -> crests on land.
 CRESTS = {

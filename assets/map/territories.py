@@ -72,10 +72,10 @@ def shapes(layers):
 
 
 def wander(a, b, depth=4):
-    """The cut from a to b, bent by chance as a border along rivers and hills would be; a cut and its
-    reverse agree."""
+    """The cut from a to b with random bends from a fixed seed, like those of a natural border; the
+    cut from b to a is the same."""
     length = ((a[0] - b[0]) ** 2 + (a[1] - b[1]) ** 2) ** 0.5
-    if depth == 0 or not 0.7 < length < 15:     # a long edge only closes its cell, out in other lands
+    if depth == 0 or not 0.7 < length < 15:     # long edges close a cell outside the country
         return [a]
     first, last = sorted((a, b))
     aside = random.Random(repr((first, last))).uniform(-0.11, 0.11)
@@ -123,13 +123,13 @@ def build(layers):
     divided = {name: [(t, Polygon(ring).buffer(0)) for t, ring in rows] for name, rows in rings.items()}
     names = {id(shape): name for name, shape in used}
     with warnings.catch_warnings():
-        warnings.simplefilter('ignore')     # of shapely 1.8, that its trees will answer indices in 2.0
+        warnings.simplefilter('ignore')     # shapely 1.8 announces that its trees return indices in 2.0
         tree = STRtree([shape for _, shape in used])
     faces = {}
     for face in polygonize(boundaries(used, rings)):
         inside = face.representative_point()
         hits = {names[id(shape)] for shape in tree.query(inside) if shape.contains(inside)}
-        # A state goes before its country, and has the longer name.
+        # States (longer names) take precedence over their country.
         t = hits and owner(max(sorted(hits), key=len), inside, divided)
         if t and face.area > 1e-9:
             faces.setdefault(t, []).append(face)

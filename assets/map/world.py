@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The world table, read from the program's own source so that there is only one."""
+"""Reads the world table from the program's source, so that it is defined only once."""
 import collections
 import pathlib
 import re

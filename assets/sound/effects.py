@@ -12,7 +12,7 @@ EXPLOSION_RATE = 8000
 
 
 def _tap(pitch, half_life):
-    """A small wooden bar: three partials, the higher ones gone first."""
+    """A small wooden bar: three partials, of which the higher ones decay faster."""
     count = int(0.09 * CLICK_RATE)
     time = np.arange(count) / CLICK_RATE
     result = np.zeros(count)
@@ -22,7 +22,7 @@ def _tap(pitch, half_life):
 
 
 def click():
-    """A switch that goes in, and lighter and higher comes out again."""
+    """A switch: a press, then a quieter and higher release."""
     track = np.zeros(1702)
     add(track, 6, _tap(880.0, 0.009))
     add(track, 6, high_pass(noise(60, 11), CLICK_RATE, 2500.0) * decay(60, CLICK_RATE, 0.0008), 0.35)
@@ -31,7 +31,7 @@ def click():
 
 
 def _shot(seed, weight):
-    """One report: the crack, the blast behind it and the blow in the chest. `weight` of 1 is a rifle."""
+    """One shot: crack, blast and low thump. `weight` 1 is a rifle."""
     count = int(0.55 * GUN_RATE)
     hiss = noise(count, seed)
     crack = high_pass(hiss, GUN_RATE, 1400.0) * decay(count, GUN_RATE, 0.009)
@@ -44,7 +44,7 @@ def _shot(seed, weight):
 
 
 def gunfire():
-    """A short burst, the answer from farther off, one heavy gun, and the hills giving it back."""
+    """A short burst, distant shots in reply, one heavy gun, and an echo."""
     count = 23662
     track = np.zeros(count)
     # Blocks in which the shots fall: a block sets its step size anew, so a crack at its start keeps its edge.
@@ -63,7 +63,7 @@ def gunfire():
 
 
 def explosion():
-    """A blow, a fireball that darkens as it rolls away, and the ground shaking under it."""
+    """An impact, noise through a low pass that closes with time, and a low rumble."""
     count = 23057
     rate = EXPLOSION_RATE
     time = np.arange(count) / rate
@@ -84,7 +84,7 @@ def explosion():
 
 
 def _rubble(count, rate):
-    """Stones that come down after the blow, fewer and farther as time passes."""
+    """Falling stones after the impact, ever fewer and quieter."""
     track = np.zeros(count)
     chance = (noise(72, 35) + 1.0) / 2.0
     for number in range(24):

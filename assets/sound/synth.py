@@ -2,7 +2,7 @@
 """Building blocks of the sounds: oscillators, envelopes, noise, filters, reverb.
 
 Only additions, multiplications and divisions act on samples. The sine and exponential functions of the C library and
-of numpy differ in their last bit from one processor to the next, and the recordings must come out the same everywhere.
+of numpy differ in the last bit between processors, but the recordings must be the same everywhere.
 """
 
 import random

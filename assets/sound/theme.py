@@ -106,7 +106,7 @@ def _strings(pitch, length, attack, release):
 
 
 def _bass(pitch, length):
-    """Plucked and bowed at once: enough partials to be heard on small speakers."""
+    """Plucked and bowed bass with enough partials to be heard on small speakers."""
     count = int((length * BEAT + 0.06) * RATE)
     phase = pitch * np.arange(count) / RATE
     soft = _harmonics(phase, pitch, lambda k: (0.7 if k == 1 else 1.2) / (k * k), 1200.0)
@@ -135,7 +135,7 @@ def _snare(seed):
 
 
 def _cymbal(seed):
-    """Clashed pair: metal partials lost in bright noise."""
+    """A pair of cymbals: metallic partials under bright noise."""
     count = int(2.2 * RATE)
     hiss = high_pass(noise(count, seed), RATE, 3200.0) * decay(count, RATE, 0.32)
     return hiss * held(count, RATE, 0.004, 1.0, 0.0)
@@ -189,7 +189,7 @@ def _drum_track():
 
 
 def theme():
-    """The whole piece at 22,050 hertz, mixed, in its hall, between silence and silence."""
+    """The whole piece at 22,050 hertz, mixed, with reverb and silence at both ends."""
     brass, strings, bass, drums = _brass_track(), _string_track(), _bass_track(), _drum_track()
     dry = brass + strings + bass + drums
     send = high_pass(0.9 * brass + strings + 0.15 * bass + 0.7 * drums, RATE, 180.0)
