@@ -1,19 +1,19 @@
 # SPDX-License-Identifier: MIT
-# The one place that says how strictly the code is compiled. Libraries and programs link it privately.
+# The compiler warnings. Every library and program links this privately.
 add_library(vorlund_warnings INTERFACE)
 target_compile_options(vorlund_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast)
-# Only the checks stop at a warning: a compiler of tomorrow knows more of them.
+# Off by default: a newer compiler has new warnings, which must not stop a build of the game or the package.
 if(VORLUND_WERROR)
   target_compile_options(vorlund_warnings INTERFACE -Werror)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # Optimising, gcc 12 takes joining a literal and a std::string for a copy onto itself.
-  # clang-tidy, which reads the same options, knows no such warning.
+  # With optimisation, gcc 12 warns wrongly (-Wrestrict) where a literal and a std::string are concatenated.
+  # clang-tidy reads the same options and does not know that warning.
   target_compile_options(vorlund_warnings INTERFACE -Wno-restrict -Wno-unknown-warning-option)
 endif()
 
-# Checks that only the rules bear: a 16-bit wrap in a toolkit header is not ours to mend.
+# Sanitizer checks for the rules only, because the toolkit's headers fail them.
 add_library(vorlund_rules_checks INTERFACE)
 
 if(VORLUND_SANITIZE)
