@@ -4,7 +4,7 @@
 
 #include "bench/first_paint.h"
 
-// A window of the size of the title screen or of the board that shows one line of text.
+// The reference of the benchmark: a window with one line of text, as large as the title screen or the board.
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QLabel window(QStringLiteral("Vorlund"));

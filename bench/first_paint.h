@@ -9,8 +9,8 @@
 #include <functional>
 #include <utility>
 
-/// Runs until a window of the class `type` has been painted, but for no more than two seconds; `then` is done
-/// right behind the paint, before anything else that waits.
+/// An event loop that runs until a window of the class `type` has been painted, two seconds at most. `then`
+/// is called by a queued call right after the paint event.
 class FirstPaint : public QEventLoop {
 public:
     FirstPaint(const char* type, std::function<void()> then) : type_(type), then_(std::move(then)) {
@@ -37,7 +37,7 @@ private:
     std::function<void()> then_;
 };
 
-/// Prints a line when the first window has been painted, and lets it stand.
+/// Prints a line when the first window has been painted, and runs on.
 inline int TellPaintAndStay() {
     FirstPaint("QWidget", [] {
         std::puts("painted");

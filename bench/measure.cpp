@@ -15,8 +15,8 @@
 #include "ui/program.h"
 #include "ui/windows/board_window.h"
 
-// What the game costs, against its budgets, in one table. By itself it measures; called with "title" or
-// "board" it is the game, with that window on the screen.
+// Prints a table of the game's costs and their budgets. Called with "title" or "board", it is the measured
+// program instead: the game with that window.
 
 namespace vorlund {
 namespace {
@@ -26,23 +26,22 @@ void Row(const char* what, double value, const char* unit, double budget) {
                 value <= budget ? "met" : "MISSED");
 }
 
-/// In milliseconds.
-double Elapsed(const QElapsedTimer& clock) {
+double ElapsedMilliseconds(const QElapsedTimer& clock) {
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-template <class Deed>
-double Milliseconds(Deed deed) {
+template <class Function>
+double Milliseconds(Function function) {
     QElapsedTimer clock;
     clock.start();
-    deed();
-    return Elapsed(clock);
+    function();
+    return ElapsedMilliseconds(clock);
 }
 
-/// A program with one window, in a process of its own.
+/// A child process that shows one window.
 struct Child : QProcess {
     Child(const QString& program, const QString& window) {
-        ToPaint = Milliseconds([&] {
+        StartToPaint = Milliseconds([&] {
             start(program, {window});
             waitForReadyRead();
         });
@@ -54,26 +53,26 @@ struct Child : QProcess {
 
     std::string Folder() const { return "/proc/" + std::to_string(processId()); }
 
-    double ToPaint = 0;
+    double StartToPaint = 0;  ///< milliseconds
 };
 
-/// The number behind `key` in a file of words.
+/// The number after the word `key` in a file.
 double NumberIn(const std::string& path, const std::string& key) {
     std::ifstream file(path);
-    double number = std::nan("");  // meets no budget
+    double number = std::nan("");  // without the word: exceeds every budget
     for (std::string word; file >> word && word != key;) {
     }
     file >> number;
     return number;
 }
 
-double Kibibytes(const Child& child) {
+double MemoryKibibytes(const Child& child) {
     QThread::sleep(1);
     return NumberIn(child.Folder() + "/smaps_rollup", "Pss:");
 }
 
-/// How often the threads of the game have gone to sleep, as they do after whatever they woke up for.
-double Sleeps(const Child& child) {
+/// The voluntary context switches of all threads: one for each time that a thread woke up.
+double WakeUps(const Child& child) {
     double sum = 0;
     for (const auto& thread : std::filesystem::directory_iterator(child.Folder() + "/task")) {
         sum += NumberIn(thread.path() / "status", "voluntary_ctxt_switches:");
@@ -83,10 +82,10 @@ double Sleeps(const Child& child) {
 
 double IdleWakeUps(const QString& window) {
     const Child child(QApplication::applicationFilePath(), window);
-    QThread::sleep(13);  // the credits are typed, and the music is over
-    const double before = Sleeps(child);
+    QThread::sleep(13);  // until the title's credits and music have ended
+    const double before = WakeUps(child);
     QThread::sleep(3);
-    return Sleeps(child) - before;
+    return WakeUps(child) - before;
 }
 
 double Median(std::vector<double> values) {
@@ -94,19 +93,19 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-/// What the game with this window costs, to a bare window: both measured by turns.
-double Ratio(const QString& window, int runs, double (*cost)(const Child&)) {
-    std::vector<double> own;
+/// The median cost of the game with this window divided by that of a bare window, measured alternately.
+double RatioToBareWindow(const QString& window, int runs, double (*cost)(const Child&)) {
+    std::vector<double> game;
     std::vector<double> bare;
     for (int i = 0; i < runs; ++i) {
-        own.push_back(cost(Child(QApplication::applicationFilePath(), window)));
+        game.push_back(cost(Child(QApplication::applicationFilePath(), window)));
         bare.push_back(cost(Child(QStringLiteral(BARE_WINDOW), window)));
     }
-    std::printf("  (%.1f against %.1f)\n", Median(own), Median(bare));
-    return Median(own) / Median(bare);
+    std::printf("  (%.1f against %.1f)\n", Median(game), Median(bare));
+    return Median(game) / Median(bare);
 }
 
-/// The program, put together as in ui/main.cpp.
+/// The program's objects, as in ui/main.cpp.
 struct Run {
     GameState Game;
     ClockRandom Chance;
@@ -115,7 +114,7 @@ struct Run {
     Program Windows{Game, Chance, Saves, Sounds};
 };
 
-/// Leaves the title screen for a full board, with a click that is heard.
+/// Opens the board with every territory owned, after playing a recording.
 void OpenBoard(Run& run) {
     run.Game = NewGame(5);
     for (int t = 0; t < NumTerritories; ++t) {
@@ -126,7 +125,7 @@ void OpenBoard(Run& run) {
     run.Windows.OpenBoard();
 }
 
-/// The window of this class that is on the screen.
+/// The visible window of the class `type`.
 QWidget& Shown(const char* type) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->inherits(type)) {
@@ -136,12 +135,13 @@ QWidget& Shown(const char* type) {
     qFatal("there is no %s", type);
 }
 
-/// From the key until the dialog has been painted for the first time.
+/// The longest time from a key press on the board to the first paint of its dialog, in milliseconds.
 double SlowestKey() {
     double slowest = 0;
     for (const QChar key : QStringLiteral("bsrautv")) {
         QElapsedTimer clock;
-        FirstPaint paint("vorlund::CommandDialog", [&] { slowest = std::max(slowest, Elapsed(clock)); });
+        FirstPaint paint("vorlund::CommandDialog",
+                         [&] { slowest = std::max(slowest, ElapsedMilliseconds(clock)); });
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, key);
         clock.start();
         QApplication::sendEvent(&Shown("vorlund::frm3"), &press);
@@ -152,7 +152,8 @@ double SlowestKey() {
     return slowest;
 }
 
-/// Of RefreshMap after each territory in turn has fallen: the call, and with the painting that follows.
+/// The milliseconds of RefreshMap after a territory has changed hands, for each territory: of the call, and
+/// of the call with the painting that it causes.
 std::pair<double, double> MedianRefresh(Run& run) {
     auto& board = dynamic_cast<BoardWindow&>(Shown("vorlund::frm3"));
     std::vector<double> calls;
@@ -175,8 +176,8 @@ double SlowestSound(Sounds& sounds) {
     return slowest;
 }
 
-/// Whole games of four computers, and of a human who only ends the turn: that counts for none, but takes its
-/// time, and so does the recorder that stands in for the screens.
+/// Plays games of four computers and a human who only ends the turn. The human's turns are not counted, but
+/// their time and the recorder's is included.
 double MicrosecondsATurn() {
     GameState start = NewGame(5);
     for (int p = 0; p < 5; ++p) {
@@ -202,16 +203,17 @@ double MicrosecondsATurn() {
 
 void PrintTable(Run& run) {
     Row("start to the title's first paint, to a bare window's",
-        Ratio("title", 21, [](const Child& child) { return child.ToPaint; }), "x", 1.4);
-    Row("memory with the board up, to a bare window's", Ratio("board", 5, Kibibytes), "x", 2);
+        RatioToBareWindow("title", 21, [](const Child& child) { return child.StartToPaint; }), "x", 1.4);
+    Row("memory with the board up, to a bare window's", RatioToBareWindow("board", 5, MemoryKibibytes), "x",
+        2);
     Row("wake-ups of the idle title, in 3 seconds", IdleWakeUps("title"), "", 0);
     Row("wake-ups of the idle board, in 3 seconds", IdleWakeUps("board"), "", 0);
     Row("a computer's turn, rules only, the mean of 200,000", MicrosecondsATurn(), "us", 10);
     run.Windows.Start();
     OpenBoard(run);
-    QEventLoop rest;
-    QTimer::singleShot(1000, &rest, &QEventLoop::quit);
-    rest.exec();  // nobody finds a key before the board stands
+    QEventLoop settle;
+    QTimer::singleShot(1000, &settle, &QEventLoop::quit);
+    settle.exec();  // the board has been painted before the first key
     Row("key to the dialog's first paint, the slowest of seven", SlowestKey(), "ms", 1000.0 / 60);
     const auto [refresh, refreshed] = MedianRefresh(run);
     Row("RefreshMap after a battle, the median of 42", refresh, "ms", 0.5);
