@@ -184,18 +184,18 @@ double MicrosecondsATurn() {
         Give(start, 8 * p, p, 10);
         start.PlayerAt(p).IsComputer = p > 0;
     }
-    Table table(1);
-    table.Game = start;
+    RecordedGame played(1);
+    played.Game = start;
     constexpr int Turns = 200'000;
     const double elapsed = Milliseconds([&] {
-        for (int turns = 0; turns < Turns; turns += table.Game.ComputerTurnEnded ? 1 : 0) {
-            if (table.Game.GameOver) {
-                table.Game = start;
+        for (int turns = 0; turns < Turns; turns += played.Game.ComputerTurnEnded ? 1 : 0) {
+            if (played.Game.GameOver) {
+                played.Game = start;
             }
-            if (!table.Turn.ReportClosed()) {
-                table.Turn.EndTurn();
+            if (!played.Turn.ReportClosed()) {
+                played.Turn.EndTurn();
             }
-            table.Seen.Calls.clear();
+            played.Seen.Calls.clear();
         }
     });
     return elapsed * 1000 / Turns;

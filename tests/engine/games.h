@@ -10,19 +10,19 @@
 
 namespace vorlund {
 
-inline bool OneIn(int n, Random& hands) {
-    return hands.Draw(n) == 0;
+inline bool OneIn(int n, Random& random) {
+    return random.Draw(n) == 0;
 }
 
-/// One of `list`, which is not empty.
+/// A random element of `list`, which is not empty.
 template <class List>
-auto Any(const List& list, Random& hands) {
-    return list[static_cast<typename List::size_type>(hands.Draw(static_cast<int>(list.size())))];
+auto OneOf(const List& list, Random& random) {
+    return list[static_cast<typename List::size_type>(random.Draw(static_cast<int>(list.size())))];
 }
 
-/// A game with its chance and its screens, put together as the program does it.
-struct Table {
-    explicit Table(std::uint32_t seed) : Chance(seed) {}
+/// A game whose turns drive a recorder instead of windows.
+struct RecordedGame {
+    explicit RecordedGame(std::uint32_t seed) : Chance(seed) {}
 
     GameState Game;
     SeededRandom Chance;
@@ -30,41 +30,42 @@ struct Table {
     TurnCycle Turn{Game, Chance, Seen, [this] { ComputerTurn(Game, Chance, Seen); }};
 };
 
-/// The state as the title screen leaves it.
+/// The state at the title screen.
 GameState FreshGame();
 
-/// A new game with its names entered and every player settled, in which the starting player has the turn.
-GameState RandomNewGame(Random& hands, Random& chance);
+/// A new game after setup, in which the starting player has the turn.
+GameState RandomNewGame(Random& random, Random& chance);
 
-/// Some consistent position that a long game might reach, units and treasuries up to their limits included.
-/// A living human has the turn.
-GameState RandomPosition(Random& hands);
+/// A consistent position of a long game, with units and treasuries up to their limits. A living human has the
+/// turn.
+GameState RandomPosition(Random& random);
 
-// What a player of random temper types. Most of it makes sense, some is no number, hard to bear or refused.
+// Random entries: most are valid, some are refused or no numbers.
 
-std::string NameEntry(Random& hands);
+std::string NameEntry(Random& random);
 
-/// Troops, tanks or barrels: mostly between nothing and `limit`, often just that.
-std::string QuantityEntry(int limit, Random& hands);
+/// A number of troops, tanks or barrels: mostly 0 to `limit`, often `limit`.
+std::string QuantityEntry(int limit, Random& random);
 
-/// Two territories: mostly an own one, and a neighbour of it.
+/// Two territories: mostly one of the current player's and its neighbour.
 struct Route {
     std::string From;
     std::string To;
-    Units Force;  ///< what stands at `From`, for the quantities
+    Units Force;  ///< stationed in `From`, as a limit for quantities
 };
-Route RandomRoute(const GameState& game, Random& hands);
+Route RandomRoute(const GameState& game, Random& random);
 
-// What must hold between any two actions. Each gives what is wrong; empty when nothing is.
+// Invariants between two actions. Each function returns what is wrong, or an empty text.
 
-/// The records agree, and the totals of every living human are the sums over that player's territories.
+/// The game is consistent, and living players' totals are the sums over their territories; of computer
+/// players only the factories.
 std::string BrokenRecords(const GameState& game);
 
-/// `given` is one of the exact sets: all eight commands with Attack only after the first turn, End Turn alone
-/// for the dead, or none.
-std::string BrokenCommands(const GameState& game, CommandSet given);
+/// `enabled` is all commands (Attack only after the first turn), End Turn alone for the dead, or none.
+std::string BrokenCommands(const GameState& game, CommandSet enabled);
 
-/// A living human's game, saved, reads back as it was and gives the same bytes again.
+/// The game, in which a living human has the turn, is the same after saving and loading, and gives the same
+/// file again.
 std::string BrokenSaving(const GameState& game);
 
 }  // namespace vorlund

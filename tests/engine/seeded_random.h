@@ -5,7 +5,7 @@
 
 namespace vorlund {
 
-/// Chance that plays the same game again for the same seed: reseeding does nothing.
+/// A repeatable generator: Reseed does nothing.
 class SeededRandom final : public ClockRandom {
 public:
     explicit SeededRandom(std::uint32_t seed) : ClockRandom(seed) {}

@@ -12,18 +12,18 @@
 namespace vorlund {
 namespace {
 
-constexpr int LinesOfFivePlayers = 545;  ///< no saved game is longer
+constexpr int MaxLines = 545;  ///< of a game of five
 
-/// Ends turns and closes reports; always with the same chance, so that an input shows its fault again.
+/// Ends turns and closes reports, with a fixed seed so that a failure is repeatable.
 std::string WrongWithTurns(const GameState& game) {
-    Table table(1);
-    table.Game = game;
-    for (int step = 0; step < 20 && !table.Game.GameOver && Consistent(table.Game); ++step) {
-        if (!table.Turn.ReportClosed()) {
-            table.Turn.EndTurn();
+    RecordedGame played(1);
+    played.Game = game;
+    for (int step = 0; step < 20 && !played.Game.GameOver && Consistent(played.Game); ++step) {
+        if (!played.Turn.ReportClosed()) {
+            played.Turn.EndTurn();
         }
     }
-    return Consistent(table.Game) ? "" : "the records disagree some turns later";
+    return Consistent(played.Game) ? "" : "the records disagree some turns later";
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ std::string WrongWithTurns(const GameState& game) {
 std::string WrongWithGame(std::string_view bytes) {
     const auto result = ReadGame(FreshGame(), bytes);
     if (const auto* const bad = std::get_if<BadFile>(&result)) {
-        const bool right = bad->Line >= 1 && bad->Line <= LinesOfFivePlayers;
+        const bool right = bad->Line >= 1 && bad->Line <= MaxLines;
         return right && !bad->What.empty() ? "" : "a refusal without a line or a reason";
     }
     const GameState& game = std::get<GameState>(result);
@@ -47,10 +47,10 @@ std::string WrongWithNumber(std::string_view text) {
     if (!std::regex_match(text.begin(), text.end(), grammar)) {
         return read ? "a text that is no number was read as one" : "";
     }
-    // In the "C" locale strtod reads the same digits, whatever locale the tests run under.
-    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-    const double expected = strtod_l(std::string(text).c_str(), nullptr, plain);
-    // Out of range is a reason not to read: too large, or so small that it is not a normal number.
+    // strtod in the "C" locale, because the tests run under other locales too.
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+    const double expected = strtod_l(std::string(text).c_str(), nullptr, cLocale);
+    // Nothing is read from a number that is too large or subnormal.
     const bool right = read ? *read == expected : std::isinf(expected) || !std::isnormal(expected);
     return right ? "" : "a number was read as another one, or not at all";
 }

@@ -6,13 +6,13 @@
 
 namespace vorlund {
 
-// What the program reads, put to the test. Each gives what went wrong; empty when nothing did.
+// Checks of the readers on any input. Each returns what is wrong, or an empty text.
 
-/// Reads `bytes` as a saved game. An accepted one must be sound, come back unchanged when it is saved and
-/// loaded again, and play on for some turns; a refused one must have a line and a reason.
+/// Reads `bytes` as a saved game. If it is accepted, it must be consistent, be the same after saving and
+/// loading, and stay consistent for some turns; a refusal must have a line and a reason.
 std::string WrongWithGame(std::string_view bytes);
 
-/// Compares ReadNumber on `text` with a second reading of its own.
+/// Compares ReadNumber on `text` with a regular expression and strtod.
 std::string WrongWithNumber(std::string_view text);
 
 }  // namespace vorlund

@@ -14,7 +14,7 @@
 namespace vorlund {
 namespace {
 
-constexpr std::clock_t LongestEvent = 2 * CLOCKS_PER_SEC;  // of this program alone, on a busy machine too
+constexpr std::clock_t LongestEvent = 2 * CLOCKS_PER_SEC;  ///< CPU time, which other processes do not affect
 
 const QString Keys = QStringLiteral(
     "B,S,R,A,U,T,E,V,E,E,Return,Return,Enter,Escape,Tab,Shift+Tab,Space,Delete,Backspace,Up,Down,PgDown,Home,"
@@ -22,9 +22,9 @@ const QString Keys = QStringLiteral(
 
 QString toolkitMessage;
 
-/// What the toolkit has to say is a fault of ours, but for what a platform cannot do, and for hands that come
-/// too late.
-void TakeMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+/// Keeps messages of the toolkit as faults of the program, except those on what the platform does not support
+/// and on events for windows that have closed meanwhile.
+void KeepMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
     static const QRegularExpression harmless(
         QStringLiteral("^This plugin does not support|^Mouse event at|setNetWmStateOnUnmappedWindow"));
     toolkitMessage = message.contains(harmless) ? toolkitMessage : message;
@@ -34,8 +34,8 @@ QString NameOf(const QWidget& window) {
     return QString::fromLatin1(window.metaObject()->className());
 }
 
-/// The windows that a hand can reach, by name, for the toolkit keeps them in no order that would come again.
-QList<QWidget*> WindowsOnScreen() {
+/// The visible windows sorted by name, because the toolkit's order differs from run to run.
+QList<QWidget*> VisibleWindows() {
     QList<QWidget*> windows = QApplication::topLevelWidgets();
     windows.removeIf([](const QWidget* window) {
         return !window->isVisible() || window->windowType() == Qt::ToolTip || !window->windowHandle();
@@ -44,37 +44,38 @@ QList<QWidget*> WindowsOnScreen() {
     return windows;
 }
 
-/// Null while it is not on the screen.
+/// Null while the board is not visible.
 QWidget* Board() {
-    const QList<QWidget*> windows = WindowsOnScreen();
+    const QList<QWidget*> windows = VisibleWindows();
     const auto board = std::find_if(windows.begin(), windows.end(),
                                     [](auto* window) { return qobject_cast<frm3*>(window) != nullptr; });
     return board != windows.end() ? *board : nullptr;
 }
 
-/// What `window` shows of one kind; the dialogs that it owns are its children too.
+/// The visible controls of one class in `window`, without those of its dialogs, which are its children too.
 template <class Widget>
-QList<Widget*> Shown(const QWidget& window) {
-    QList<Widget*> shown = window.findChildren<Widget*>();
-    shown.removeIf([&](const Widget* widget) { return !widget->isVisible() || widget->window() != &window; });
-    return shown;
+QList<Widget*> Visible(const QWidget& window) {
+    QList<Widget*> controls = window.findChildren<Widget*>();
+    controls.removeIf(
+        [&](const Widget* widget) { return !widget->isVisible() || widget->window() != &window; });
+    return controls;
 }
 
-/// Random hands at the real windows of one run of the real program. After each event everything must still be
-/// well. The same seed does the same again.
+/// Sends random events to the windows of one run of the program and checks the invariants after each. The
+/// same seed gives the same events.
 class Monkey : public QObject {
 public:
-    explicit Monkey(int seed) : seed_(seed), mind_(static_cast<std::uint32_t>(seed)) {
-        for (char name = 'a'; name <= 'l'; ++name) {  // as many as there is room for in the list
-            saves_.Save(std::string(1, name) + ".vrs", RandomPosition(mind_), true);
+    explicit Monkey(int seed) : seed_(seed), random_(static_cast<std::uint32_t>(seed)) {
+        for (char name = 'a'; name <= 'l'; ++name) {  // enough to fill the list
+            saves_.Save(std::string(1, name) + ".vrs", RandomPosition(random_), true);
         }
         if (!QFile(folder_.filePath(QStringLiteral("0 empty.vrs"))).open(QIODevice::WriteOnly)) {
-            GiveUp("no file can be written");
+            Fail("no file can be written");
         }
         QGuiApplication::clipboard()->clear();
     }
 
-    /// Runs the program until it ends or `events` are done; gives how many were done.
+    /// Runs the program until it ends or `events` have been sent; returns how many were.
     int Play(qsizetype events) {
         std::fprintf(stderr, "seed %d: ", seed_);
         eventsAllowed_ = events;
@@ -82,8 +83,8 @@ public:
         program_.Start();
         startTimer(0);
         QApplication::exec();
-        if (!WindowsOnScreen().isEmpty()) {
-            GiveUp("the program has ended, but not all of its windows");
+        if (!VisibleWindows().isEmpty()) {
+            Fail("the program has ended, but a window is open");
         }
         std::fprintf(stderr, "%lld events%s\n", done_.size(), game_.GameOver ? ", a whole game" : "");
         return static_cast<int>(done_.size());
@@ -91,7 +92,8 @@ public:
 
 protected:
     void timerEvent(QTimerEvent* event) override {
-        // A timer of its own for each event: one during which a message box waits must not hold up the next.
+        // Each event has its own timer, because an event that opens a message box returns only when the box
+        // closes.
         killTimer(event->timerId());
         startTimer(0);
         const int depth = QThread::currentThread()->loopLevel();
@@ -99,13 +101,13 @@ protected:
             return;
         }
         if (const std::string broken = Broken(); !broken.empty()) {
-            GiveUp(broken);
+            Fail(broken);
         }
         const int before = std::exchange(actingAt_, depth);
         if (done_.size() < eventsAllowed_) {
             Act();
         } else if (auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            box->done(0);  // before the program ends, for the code that asked waits
+            box->done(0);  // first, because the code that opened the box has not returned
         } else if (depth == 1) {
             program_.End();
         }
@@ -114,42 +116,44 @@ protected:
 
 private:
     void Act() {
-        if (NothingCanBeDone()) {
+        if (IsStuck()) {
             return;
         }
         eventBegan_ = std::clock();
-        const QList<QWidget*> windows = WindowsOnScreen();
-        const qsizetype board = windows.size() > 1 && !OneIn(4, mind_) ? 1 : 0;  // it is the first by name
+        const QList<QWidget*> windows = VisibleWindows();
+        const qsizetype first =
+            windows.size() > 1 && !OneIn(4, random_) ? 1 : 0;  // mostly not the board, number 0
         QWidget* const modal = QApplication::activeModalWidget();
-        const bool strays = modal == nullptr || OneIn(10, mind_);
-        QWidget& window = strays ? *Any(windows.mid(board), mind_) : *modal;
-        const auto buttons = Shown<QAbstractButton>(window);
-        const auto fields = Shown<QLineEdit>(window);
+        const bool anyWindow = modal == nullptr || OneIn(10, random_);
+        QWidget& window = anyWindow ? *OneOf(windows.mid(first), random_) : *modal;
+        const auto buttons = Visible<QAbstractButton>(window);
+        const auto fields = Visible<QLineEdit>(window);
         const bool mayEndGame = window.parentWidget() == nullptr && !game_.GameOver;
-        const int kind = mind_.Draw(100);
-        if (kind < 4 && (!mayEndGame || OneIn(10, mind_))) {
+        const int kind = random_.Draw(100);
+        if (kind < 4 && (!mayEndGame || OneIn(10, random_))) {
             done_ << NameOf(window) + QStringLiteral(" closed");
             window.windowHandle()->close();
         } else if (kind < 6) {
             done_ << NameOf(window) + QStringLiteral(" activated");
             window.windowHandle()->requestActivate();
         } else if (kind < 30) {
-            done_ << NameOf(window) + u' ' + Any(Keys.split(u','), mind_);
+            done_ << NameOf(window) + u' ' + OneOf(Keys.split(u','), random_);
             const QKeyCombination key = QKeySequence(done_.last().section(u' ', 1))[0];
             QTest::keyClick(window.windowHandle(), key.key(), key.keyboardModifiers());
         } else if (kind < 60 && !fields.isEmpty()) {
             Fill(window, fields);
         } else {
             const bool anywhere = kind < 70 || buttons.isEmpty();
-            Click(window, anywhere ? *Any(Shown<QWidget>(window) << &window, mind_) : *Any(buttons, mind_));
+            Click(window,
+                  anywhere ? *OneOf(Visible<QWidget>(window) << &window, random_) : *OneOf(buttons, random_));
         }
     }
 
     void Click(const QWidget& window, const QWidget& target) {
-        const QPoint within(mind_.Draw(target.width()), mind_.Draw(target.height()));
+        const QPoint within(random_.Draw(target.width()), random_.Draw(target.height()));
         const QPoint place = target.mapTo(&window, within);
-        const auto button = OneIn(10, mind_) ? Qt::RightButton : Qt::LeftButton;
-        const char* const kind = Any(std::array{"hover", "double", "click", "click", "click"}, mind_);
+        const auto button = OneIn(10, random_) ? Qt::RightButton : Qt::LeftButton;
+        const char* const kind = OneOf(std::array{"hover", "double", "click", "click", "click"}, random_);
         done_ << QStringLiteral("%1 %2 %3 %4").arg(NameOf(window), kind).arg(place.x()).arg(place.y());
         if (*kind == 'h') {
             QTest::mouseMove(window.windowHandle(), place);
@@ -161,52 +165,51 @@ private:
     }
 
     void Fill(const QWidget& window, const QList<QLineEdit*>& fields) {
-        const Route route = RandomRoute(game_, mind_);
-        QWindow* const hands = window.windowHandle();
+        const Route route = RandomRoute(game_, random_);
+        QWindow* const handle = window.windowHandle();
         done_ << NameOf(window);
         for (const QLineEdit* field : fields) {
             const QString text = Entry(field->objectName(), route);
             done_.last() += u' ' + field->objectName() + u' ' + text;
             QGuiApplication::clipboard()->setText(text);
-            QTest::mouseClick(hands, Qt::LeftButton, {}, field->geometry().center());
-            QTest::keyClick(hands, Qt::Key_A, Qt::ControlModifier);
+            QTest::mouseClick(handle, Qt::LeftButton, {}, field->geometry().center());
+            QTest::keyClick(handle, Qt::Key_A, Qt::ControlModifier);
             for (const QChar letter : text) {
-                QTest::sendKeyEvent(QTest::Click, hands, Qt::Key_unknown, letter, Qt::NoModifier);
+                QTest::sendKeyEvent(QTest::Click, handle, Qt::Key_unknown, letter, Qt::NoModifier);
             }
         }
-        if (OneIn(2, mind_)) {
-            QTest::keyClick(hands, Qt::Key_Return);
+        if (OneIn(2, random_)) {
+            QTest::keyClick(handle, Qt::Key_Return);
         }
     }
 
     QString Entry(const QString& field, const Route& route) {
         if (field == QLatin1String("txtSave") || field.startsWith(QLatin1String("txtN("))) {
-            return QString::fromStdString(NameEntry(mind_));
+            return QString::fromStdString(NameEntry(random_));
         }
         return QString::fromStdString(
-            field == QLatin1String("txtTroops")                  ? QuantityEntry(route.Force.Troops, mind_)
-            : field == QLatin1String("txtTanks")                 ? QuantityEntry(route.Force.Tanks, mind_)
-            : field == QLatin1String("txtOil")                   ? QuantityEntry(30, mind_)
-            : field == QLatin1String("txtC1") || OneIn(3, mind_) ? route.From
-                                                                 : route.To);
+            field == QLatin1String("txtTroops")  ? QuantityEntry(route.Force.Troops, random_)
+            : field == QLatin1String("txtTanks") ? QuantityEntry(route.Force.Tanks, random_)
+            : field == QLatin1String("txtOil")   ? QuantityEntry(30, random_)
+            : field == QLatin1String("txtC1") || OneIn(3, random_) ? route.From
+                                                                   : route.To);
     }
 
-    static CommandSet Available(const QWidget& board) {
+    static CommandSet Enabled(const QWidget& board) {
         const auto labels = board.findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
-        CommandSet available;
+        CommandSet enabled;
         for (const Command command : AllCommands) {
-            const bool enabled = labels[static_cast<qsizetype>(command)]->isEnabled();
-            available = enabled ? available.With(command) : available;
+            const bool isEnabled = labels[static_cast<qsizetype>(command)]->isEnabled();
+            enabled = isEnabled ? enabled.With(command) : enabled;
         }
-        return available;
+        return enabled;
     }
 
-    bool NothingCanBeDone() {
-        const QList<QWidget*> windows = WindowsOnScreen();
+    bool IsStuck() {
+        const QList<QWidget*> windows = VisibleWindows();
         const QWidget* const board = Board();
         const bool boardAlone = windows.size() == 1 && windows.front() == board;
-        return windows.isEmpty() ||
-               (boardAlone && !game_.GameOver && Available(*board) == CommandSet::None());
+        return windows.isEmpty() || (boardAlone && !game_.GameOver && Enabled(*board) == CommandSet::None());
     }
 
     std::string Broken() {
@@ -214,16 +217,16 @@ private:
             return "the toolkit says: " + toolkitMessage.toStdString();
         }
         if (std::clock() - eventBegan_ > LongestEvent) {
-            return NothingCanBeDone() ? "nothing is left to do" : "an event took too long";
+            return IsStuck() ? "nothing is left to do" : "an event took too long";
         }
-        // Before the first turn has begun, players without a territory are alive.
+        // Before the first turn, players without a territory are alive.
         const QWidget* const board = Board();
         if (board == nullptr || board->windowTitle() == QLatin1String("Vorlund")) {
             return "";
         }
-        const CommandSet available = Available(*board);
-        std::string broken = BrokenRecords(game_) + BrokenCommands(game_, available);
-        if (available.Has(Command::Save) && done_.size() % 8 == 0) {
+        const CommandSet enabled = Enabled(*board);
+        std::string broken = BrokenRecords(game_) + BrokenCommands(game_, enabled);
+        if (enabled.Has(Command::Save) && done_.size() % 8 == 0) {
             broken += BrokenSaving(game_);
         }
         for (int t = 0; t < NumTerritories; ++t) {
@@ -235,23 +238,23 @@ private:
                 broken += "the board does not show what stands in " + std::string(territory.Name);
             }
         }
-        for (const QWidget* window : WindowsOnScreen()) {
+        for (const QWidget* window : VisibleWindows()) {
             if ((game_.GameOver || game_.Current().IsDead) && qobject_cast<const CommandDialog*>(window)) {
-                broken += NameOf(*window).toStdString() + " is open for somebody who can do nothing";
+                broken += NameOf(*window).toStdString() + " is open for a player without commands";
             }
         }
         return broken;
     }
 
-    [[noreturn]] void GiveUp(const std::string& complaint) const {
-        std::fprintf(stderr, "\n%s\nBROKEN: %s\nThe same again: VORLUND_SEED=%d VORLUND_EVENTS=%lld\n",
+    [[noreturn]] void Fail(const std::string& complaint) const {
+        std::fprintf(stderr, "\n%s\nBROKEN: %s\nRepeat with VORLUND_SEED=%d VORLUND_EVENTS=%lld\n",
                      qPrintable(done_.mid(done_.size() - 30).join(u'\n')), complaint.c_str(), seed_,
                      done_.size());
         std::_Exit(1);
     }
 
     int seed_;
-    SeededRandom mind_;
+    SeededRandom random_;
     QTemporaryDir folder_;
     GameState game_;
     SeededRandom chance_{static_cast<std::uint32_t>(seed_)};
@@ -261,19 +264,19 @@ private:
     qsizetype eventsAllowed_ = 0;
     QStringList done_;
     std::clock_t eventBegan_ = 0;
-    int actingAt_ = 0;  ///< the depth of event loops at which an event is being carried out
+    int actingAt_ = 0;  ///< the nesting depth of the event loop in which an event is being sent
 };
 
 }  // namespace
 }  // namespace vorlund
 
-/// Does VORLUND_EVENTS random events (200,000 if unset) from VORLUND_SEED (1) to the program's windows, up to
-/// the first that breaks something.
+/// Sends VORLUND_EVENTS random events (200,000 if unset) with seeds from VORLUND_SEED (1) on, until an
+/// invariant is broken.
 int main(int argc, char** argv) {
-    setenv("SDL_AUDIODRIVER", "dummy", 0);  // the sounds are played, but into the void
+    setenv("SDL_AUDIODRIVER", "dummy", 0);  // without a sound device
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    qInstallMessageHandler(vorlund::TakeMessage);
+    qInstallMessageHandler(vorlund::KeepMessage);
     const vorlund::InputFilter inputFilter;
     int seed = qEnvironmentVariable("VORLUND_SEED", "1").toInt();
     for (int left = qEnvironmentVariable("VORLUND_EVENTS", "200000").toInt(); left > 0; ++seed) {
