@@ -4,10 +4,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <set>
+#include <sstream>
 #include <system_error>
 
 #include "savegame/folder.h"
@@ -17,7 +20,7 @@
 
 namespace vorlund {
 
-/// How an outcome is printed when it is not the one that was due.
+/// Prints a result in a failure message.
 void PrintTo(const SaveResult& result, std::ostream* out) {
     *out << static_cast<int>(result.Outcome) << " " << result.Message;
 }
@@ -44,36 +47,40 @@ std::string CouldNot(const std::string& what, const std::string& why) {
     return "The game 'my.vrs' could not be " + what + ".\r" + why;
 }
 
-/// Stands between the saved games and the system, looks on before each call and makes some of them fail.
-struct Meddler {
-    std::size_t FailAt = 0;    ///< which call, counted from 1
-    std::string FailAlways{};  ///< calls that fail each time
-    int Error = 0;             ///< and how
+/// System calls that record their names and fail on request.
+struct FailingCalls {
+    std::size_t FailAt = 0;              ///< which call fails, counted from 1
+    std::set<std::string> FailAlways{};  ///< names of calls that fail each time
+    int Error = 0;                       ///< errno of a failure
     std::size_t BytesAtOnce = MaxSavedGameBytes;
-    std::function<void()> Before = [] {};
-    std::string Names{};  ///< of the calls so far, a letter each
+    std::function<void()> Before = [] {};  ///< called before each call
+    std::vector<std::string> Names{};      ///< of the calls so far
 
     SystemCalls Calls() {
         SystemCalls calls = RealSystemCalls();
-        calls.Sync = [](int) { return 0; };  // nobody sees it, and it takes its time
-        const auto wrapAll = [this](const char* name, auto&... call) { (Wrap(call, *name++), ...); };
-        wrapAll("onxfrwsyclimukted", calls.OpenForReading, calls.CreateNew, calls.OpenForLocking,
-                calls.OpenFolder, calls.Read, calls.Write, calls.Sync, calls.SyncFileSystem, calls.Close,
-                calls.Lock, calls.IsNamed, calls.Rename, calls.Unlink, calls.MakeFolder, calls.Look,
-                calls.ReadLink, calls.ListFolder);
+        calls.Sync = [](int) { return 0; };  // slow, and no test can observe its effect
+        std::istringstream names(
+            "OpenForReading CreateNew OpenForLocking OpenFolder Read Write Sync SyncFileSystem Close Lock "
+            "IsNamed Rename Unlink MakeFolder Look ReadLink ListFolder");
+        const auto wrapAll = [&](auto&... call) {
+            (Wrap(call, *std::istream_iterator<std::string>(names)), ...);
+        };
+        wrapAll(calls.OpenForReading, calls.CreateNew, calls.OpenForLocking, calls.OpenFolder, calls.Read,
+                calls.Write, calls.Sync, calls.SyncFileSystem, calls.Close, calls.Lock, calls.IsNamed,
+                calls.Rename, calls.Unlink, calls.MakeFolder, calls.Look, calls.ReadLink, calls.ListFolder);
         return calls;
     }
 
     template <typename Result, typename... Arguments>
-    void Wrap(std::function<Result(Arguments...)>& call, char name) {
+    void Wrap(std::function<Result(Arguments...)>& call, const std::string& name) {
         call = [this, name, real = call](Arguments... arguments) -> Result {
             Before();
-            Names += name;
-            if constexpr (sizeof...(Arguments) == 3) {  // reading and writing
+            Names.push_back(name);
+            if constexpr (sizeof...(Arguments) == 3) {  // Read and Write
                 auto& size = std::get<2>(std::tie(arguments...));
                 size = std::min(size, BytesAtOnce);
             }
-            const bool fails = Names.size() == FailAt || FailAlways.find(name) != std::string::npos;
+            const bool fails = Names.size() == FailAt || FailAlways.contains(name);
             errno = Error;
             return fails ? -1 : real(arguments...);
         };
@@ -91,7 +98,6 @@ struct SavedGames : testing::Test {
         std::ofstream(path / file, std::ios::binary) << bytes;
     }
 
-    /// Everything in the folder.
     std::set<std::string> Files() const {
         std::set<std::string> files;
         for (const auto& entry : fs::directory_iterator(path)) {
@@ -104,26 +110,27 @@ struct SavedGames : testing::Test {
         return SavedGamesFolder(path).Save("my.vrs", NewOne, overwrite);
     }
 
-    /// The new game saved over the old one, or into no folder. At every moment the file is one or the other.
-    SaveResult Save(Meddler& meddler, bool overOld = true) const {
+    /// Saves the new game over the old one, or without a folder. Before each call the file must be one or the
+    /// other.
+    SaveResult Save(FailingCalls& calls, bool overOld = true) const {
         const std::string old = overOld ? Old : "";
         fs::remove_all(path.parent_path());
         if (overOld) {
             fs::create_directories(path);
             Put("my.vrs", Old);
-            Put("unfinished-1-1.tmp", "what a crash has left");
+            Put("unfinished-1-1.tmp", "left by a crash");
         }
-        meddler.Before = [&] {
+        calls.Before = [&] {
             const std::string content = Content(path / "my.vrs");
             EXPECT_TRUE(SavedGamesFolder(path).List().Files.size() <= 1 &&
                         (content == New || content == old));
         };
-        const auto result = SavedGamesFolder(path, meddler.Calls()).Save("my.vrs", NewOne, true);
+        const auto result = SavedGamesFolder(path, calls.Calls()).Save("my.vrs", NewOne, true);
         EXPECT_EQ(Content(path / "my.vrs"), result.Outcome == Kind::NotSaved ? old : New);
         return result;
     }
 
-    /// What loading says, or the game.
+    /// The error of loading, or the file of the loaded game.
     static std::string Load(const SavedGamesFolder& folder) {
         const auto result = folder.Load("my.vrs", FreshGame());
         const auto* const error = std::get_if<LoadError>(&result);
@@ -145,44 +152,59 @@ SaveResult InDoubt(int error) {
             "Game 'my.vrs' saved, but a power cut now could still lose it.\r" + Reason(error)};
 }
 
-TEST_F(SavedGames, AreTheOldOneOrTheNewOneWhateverCallFails) {
-    // Each system call and what becomes of the game when it fails: N not saved, S saved, L saved, but the
-    // leftover of the crash stays, D saved in doubt. The whole new file comes first, then its name.
-    const std::tuple<bool, std::string, std::string> rows[]{
-        {true, "tedtxliucnxliwscmfscc", "NNLLLLLLSNSSSNNNNSDSS"},
-        {false, "tednkkknxliwscmfscfscfscc", "NNSNNNNNSSSNNNNSDSSDSSDSS"},
+TEST_F(SavedGames, AreTheOldOrTheNewOneWhicheverCallFails) {
+    // Every call of a save and its result if that call fails; Leftover: saved, but the crash's file is not
+    // removed.
+    const std::pair<bool, std::string> rows[]{
+        {true,
+         "Look:NotSaved ReadLink:NotSaved ListFolder:Leftover Look:Leftover OpenForLocking:Leftover "
+         "Lock:Leftover IsNamed:Leftover Unlink:Leftover Close:Saved CreateNew:NotSaved OpenForLocking:Saved "
+         "Lock:Saved IsNamed:Saved Write:NotSaved Sync:NotSaved Close:NotSaved Rename:NotSaved "
+         "OpenFolder:Saved Sync:InDoubt Close:Saved Close:Saved"},
+        {false,
+         "Look:NotSaved ReadLink:NotSaved ListFolder:Saved CreateNew:NotSaved MakeFolder:NotSaved "
+         "MakeFolder:NotSaved MakeFolder:NotSaved CreateNew:NotSaved OpenForLocking:Saved Lock:Saved "
+         "IsNamed:Saved Write:NotSaved Sync:NotSaved Close:NotSaved Rename:NotSaved "
+         "OpenFolder:Saved Sync:InDoubt Close:Saved OpenFolder:Saved Sync:InDoubt Close:Saved "
+         "OpenFolder:Saved Sync:InDoubt Close:Saved Close:Saved"},
     };
-    for (const auto& [overOld, calls, outcomes] : rows) {
-        Meddler none;
+    for (const auto& [overOld, row] : rows) {
+        FailingCalls none;
         EXPECT_EQ(Save(none, overOld), Saved);
-        EXPECT_EQ(none.Names, calls);
-        for (std::size_t place = 1; place <= calls.size(); ++place) {
+        std::istringstream expected(row);
+        std::vector<std::string> names;
+        bool began = false;
+        for (std::string outcome; std::getline(expected >> std::ws, outcome, ':');) {
+            names.push_back(outcome);
+            began = began || outcome == "CreateNew";
+            expected >> outcome;
             for (const int error : {ENOSPC, EACCES, EINTR}) {
-                Meddler meddler{place, "", error};
-                const char outcome = error == EINTR ? 'S' : outcomes[place - 1];
-                EXPECT_EQ(Save(meddler, overOld), outcome == 'N'   ? NotSaved(Reason(error))
-                                                  : outcome == 'D' ? InDoubt(error)
-                                                                   : Saved)
-                    << place << calls[place - 1];
-                const std::size_t tidy = fs::exists(path / "my.vrs") ? 1 : 0;
-                const bool early = overOld && outcome == 'N' && place < calls.find('n');
-                EXPECT_EQ(fs::exists(path) ? Files().size() : 0, tidy + (outcome == 'L' || early ? 1 : 0))
-                    << place;
+                const std::string result = error == EINTR ? "Saved" : outcome;
+                FailingCalls failing{names.size(), {}, error};
+                EXPECT_EQ(Save(failing, overOld), result == "NotSaved"  ? NotSaved(Reason(error))
+                                                  : result == "InDoubt" ? InDoubt(error)
+                                                                        : Saved)
+                    << names.size() << names.back();
+                const std::size_t kept = fs::exists(path / "my.vrs") ? 1 : 0;
+                const bool isLeft = result == "Leftover" || (overOld && result == "NotSaved" && !began);
+                EXPECT_EQ(fs::exists(path) ? Files().size() : 0, kept + (isLeft ? 1 : 0)) << names.size();
             }
         }
+        EXPECT_EQ(none.Names, names);
     }
 }
 
-TEST_F(SavedGames, AreWrittenAsFarAsTheMachineLetsThem) {
-    const auto save = [&](Meddler meddler) { return Save(meddler); };
-    EXPECT_EQ(save({0, "", 0, 1000}), Saved);
-    EXPECT_EQ(save({0, "", 0, 0}), NotSaved(Reason(EIO)));
-    EXPECT_EQ(save({19, "", EINVAL}), Saved) << "a file system that flushes no folders";
-    EXPECT_EQ(save({0, "fd", EACCES}), Saved) << "a folder that cannot be read";
-    EXPECT_EQ(save({0, "fdy", EACCES}), InDoubt(EACCES));
-    EXPECT_EQ(save({0, "l", ENOLCK}), Saved) << "a file system without locks";
-    EXPECT_EQ(save({0, "t", EIO}), NotSaved(Reason(EIO)));
-    EXPECT_EQ(save({0, "wu", ENOSPC}),
+TEST_F(SavedGames, AreWrittenInSpiteOfFileSystemLimitsOrGiveTheError) {
+    const auto save = [&](FailingCalls calls) { return Save(calls); };
+    EXPECT_EQ(save({0, {}, 0, 1000}), Saved);
+    EXPECT_EQ(save({0, {}, 0, 0}), NotSaved(Reason(EIO)));
+    EXPECT_EQ(save({19, {}, EINVAL}), Saved) << "a file system that cannot flush folders";
+    EXPECT_EQ(save({19, {}, ENOTSUP}), Saved);
+    EXPECT_EQ(save({0, {"OpenFolder", "ListFolder"}, EACCES}), Saved) << "a folder that cannot be read";
+    EXPECT_EQ(save({0, {"OpenFolder", "ListFolder", "SyncFileSystem"}, EACCES}), InDoubt(EACCES));
+    EXPECT_EQ(save({0, {"Lock"}, ENOLCK}), Saved) << "a file system without locks";
+    EXPECT_EQ(save({0, {"Look"}, EIO}), NotSaved(Reason(EIO)));
+    EXPECT_EQ(save({0, {"Write", "Unlink"}, ENOSPC}),
               NotSaved(Reason(ENOSPC) + "\rThe unfinished file 'unfinished-" + std::to_string(getpid()) +
                        "-1.tmp' could not be removed.\r" + Reason(ENOSPC)));
 
@@ -200,15 +222,15 @@ TEST_F(SavedGames, AreWrittenAsFarAsTheMachineLetsThem) {
               NotSaved("It would not read back as it is."));
 }
 
-TEST_F(SavedGames, OfTwoCopiesDoNotDisturbEachOther) {
+TEST_F(SavedGames, CanBeWrittenByTwoProcessesAtOnce) {
     const std::string own = "unfinished-" + std::to_string(getpid()) + "-1.tmp";
-    EXPECT_EQ(mkfifo((path / own).c_str(), 0600), 0);  // no leftover of ours, so the next name is taken
+    EXPECT_EQ(mkfifo((path / own).c_str(), 0600), 0);  // not removed; the next name is used
     for (const char* const name : {"unfinished-7-2.tmp", "unfinished-x-1.tmp", "unfinished-7-1.tmp.vrs"}) {
         Put(name, "");
     }
     for (std::size_t place = 1, calls = 1; place <= calls; ++place) {
-        Meddler one;
-        Meddler other;
+        FailingCalls one;
+        FailingCalls other;
         one.Before = [&] {
             if (one.Names.size() + 1 == place) {
                 const SavedGamesFolder folder(path, other.Calls());
@@ -217,7 +239,7 @@ TEST_F(SavedGames, OfTwoCopiesDoNotDisturbEachOther) {
             }
         };
         Put("my.vrs", Old);
-        EXPECT_EQ(SavedGamesFolder(path, one.Calls()).Save("my.vrs", NewOne, true), Saved) << one.Names;
+        EXPECT_EQ(SavedGamesFolder(path, one.Calls()).Save("my.vrs", NewOne, true), Saved) << place;
         calls = one.Names.size();
     }
     EXPECT_EQ(Content(path / "my.vrs"), New);
@@ -225,7 +247,7 @@ TEST_F(SavedGames, OfTwoCopiesDoNotDisturbEachOther) {
                                               "unfinished-x-1.tmp"}));
 }
 
-TEST_F(SavedGames, BehindALinkAreReplacedAndTheLinkStays) {
+TEST_F(SavedGames, BehindASymbolicLinkAreReplacedButNotTheLink) {
     const fs::path disk = path.parent_path() / "disk";
     const std::string behind = "It is a link to '" + (disk / "real.vrs").string() + "'.\r";
     const auto link = [&](const char* name, const fs::path& target) {
@@ -234,7 +256,7 @@ TEST_F(SavedGames, BehindALinkAreReplacedAndTheLinkStays) {
     };
     link("hop", disk / "real.vrs");
     link("my.vrs", "hop");
-    EXPECT_EQ(Save(), NotSaved(behind + Reason(ENOENT))) << "the disk is not plugged in";
+    EXPECT_EQ(Save(), NotSaved(behind + Reason(ENOENT))) << "the disk is not mounted";
     EXPECT_FALSE(fs::exists(disk));
     EXPECT_EQ(Load(SavedGamesFolder(path)), "no such game");
     EXPECT_EQ(SavedGamesFolder(path).List().Files, std::vector<std::string>{});
@@ -256,7 +278,7 @@ TEST_F(SavedGames, BehindALinkAreReplacedAndTheLinkStays) {
     EXPECT_EQ(SavedGamesFolder(path).List().Files, std::vector<std::string>{"my.vrs"});
 }
 
-TEST_F(SavedGames, AreNothingButFiles) {
+TEST_F(SavedGames, AreRegularFilesOnly) {
     const fs::path place = path / "my.vrs";
     const std::pair<const char*, std::function<void()>> rows[]{
         {"folder", [&] { fs::create_directory(place); }},
@@ -276,7 +298,7 @@ TEST_F(SavedGames, AreNothingButFiles) {
     }
 }
 
-TEST_F(SavedGames, AreListedInOrderAndDeletedOneByOne) {
+TEST_F(SavedGames, AreListedInOrderAndDeletedByExactName) {
     for (const char* const name : {"zoo.vrs", "Beta.vrs", ".vrs", "GAME.VRS", "a.vrs.bak", "*.vrs"}) {
         Put(name, "");
     }
@@ -285,25 +307,28 @@ TEST_F(SavedGames, AreListedInOrderAndDeletedOneByOne) {
     EXPECT_EQ(folder.Delete("*.vrs"), "The game '*.vrs' could not be deleted.\r" + Reason(ENOENT));
     const std::vector<std::string> all{".vrs", "Beta.vrs", "my.vrs", "zoo.vrs"};
     EXPECT_EQ(folder.List().Files, all);
-    Meddler blind{0, "t", EACCES};
+    FailingCalls blind{0, {"Look"}, EACCES};
     EXPECT_EQ(SavedGamesFolder(path, blind.Calls()).List().Files, all);
     EXPECT_EQ(SavedGamesFolder(path / "none").List().Error, std::nullopt);
     EXPECT_EQ(SavedGamesFolder(path / ".vrs").List().Error,
               "The saved games could not be listed.\r" + Reason(ENOTDIR));
 }
 
-TEST_F(SavedGames, AreLoadedOrSayWhyNot) {
-    const auto load = [&](Meddler meddler) {
-        const std::string result = Load(SavedGamesFolder(path, meddler.Calls()));
-        EXPECT_LT(meddler.Names.size(), 80U) << "the rest of a large file is left alone";
+TEST_F(SavedGames, AreLoadedOrGiveTheError) {
+    const auto load = [&](FailingCalls calls) {
+        const std::string result = Load(SavedGamesFolder(path, calls.Calls()));
+        EXPECT_LT(calls.Names.size(), 80U) << "only the start of a large file is read";
+        const bool isOpened = std::count(calls.Names.begin(), calls.Names.end(), "Read") > 0;
+        EXPECT_EQ(calls.Names.back() == "Close", isOpened);
         return result;
     };
     Put("my.vrs", New + std::string(1 << 20, 'x'));
-    EXPECT_EQ(load({4, "", EINTR, 1000}), New);
+    EXPECT_EQ(load({4, {}, EINTR, 1000}), New);
     for (const std::size_t place : {1U, 2U, 3U}) {
-        EXPECT_EQ(load({place, "", EIO}), CouldNot("loaded", Reason(EIO)));
+        EXPECT_EQ(load({place, {}, EIO}), CouldNot("loaded", Reason(EIO)));
     }
-    EXPECT_EQ(load({2, "", ENOENT}), "no such game") << "it has gone this moment";
+    EXPECT_EQ(load({2, {}, ENOENT}), "no such game") << "deleted after Look";
+    EXPECT_EQ(Load(SavedGamesFolder(path / "my.vrs")), "no such game") << "a file in place of the folder";
     Put("my.vrs", "");
     EXPECT_EQ(load({}), CouldNot("loaded", "Line 1: The file ends before NumPlayers of the game."));
 }

@@ -11,17 +11,17 @@
 namespace vorlund {
 namespace {
 
-using Point = std::pair<int, int>;  // in tenths of a pixel, as the file has them
+using Point = std::pair<int, int>;  ///< in tenths of a pixel, as in the files
 
-TEST(Map, OutlinesAndBordersAreTheNeighboursAndHoldTheMarkers) {
+TEST(Map, OutlinesAndBordersAgreeWithNeighboursAndMarkers) {
     std::ifstream file(VORLUND_SOURCE_DIR "/assets/map/outlines.txt");
-    // Neighbours by number: those without a common border, joined by sea, and then the others.
+    // Neighbours across the sea, by number; those with a common border are added below.
     std::set<std::set<int>> expected{{1, 29},  {4, 5},   {5, 16},  {8, 11},  {10, 11}, {11, 12}, {14, 23},
                                      {16, 18}, {17, 23}, {17, 24}, {19, 21}, {20, 24}, {22, 24}, {25, 28},
                                      {34, 35}, {38, 39}, {39, 40}, {39, 41}, {40, 42}};
     std::map<std::pair<Point, Point>, int> edges;
     std::map<std::pair<Point, Point>, std::set<int>> shared;
-    std::set<int> held;  // whose marker is on their land; a ring within a ring is a hole
+    std::set<int> marked;  // territories that contain their marker; a ring within a ring is a hole
     int territory = 0;
     for (std::size_t count = 0; file >> territory >> count;) {
         const WorldEntry& land = World.at(static_cast<std::size_t>(territory) - 1);
@@ -35,17 +35,17 @@ TEST(Map, OutlinesAndBordersAreTheNeighboursAndHoldTheMarkers) {
             if (!isNew) {
                 expected.insert(shared[edge->first] = {edge->second, territory});
             }
-            // A ray from the marker to the left crosses the outline an odd number of times.
+            // The marker is inside if a ray to its left crosses the outlines an odd number of times.
             const double down = land.MapY * 10 - a.second;
             if ((down < 0) != (b.second > land.MapY * 10) &&
                 land.MapX * 10 - a.first > down * (b.first - a.first) / (b.second - a.second) &&
-                !held.insert(territory).second) {
-                held.erase(territory);
+                !marked.insert(territory).second) {
+                marked.erase(territory);
             }
             a = b;
         }
     }
-    EXPECT_TRUE(file.eof() && held.size() == World.size());
+    EXPECT_TRUE(file.eof() && marked.size() == World.size());
     std::set<std::set<int>> neighbours;
     for (int t = 0; t < NumTerritories; ++t) {
         for (const int other : World[static_cast<std::size_t>(t)].Neighbours) {

@@ -23,8 +23,8 @@
 
 namespace vorlund {
 
-/// What an order has led to, in one text: what the player is told, or a word in brackets.
-struct Said {
+/// The outcome of an order as text: the message to the player, or a word in brackets.
+struct OutcomeText {
     std::string operator()(const Refusal& refusal) const { return refusal.Message; }
     std::string operator()(const Report& r) const { return r.Title + "|" + r.Headline + "|" + r.Body; }
     std::string operator()(const Moved& moved) const { return moved.StatusLine; }
@@ -34,7 +34,7 @@ struct Said {
     std::string operator()(const NoSurvivor&) const { return "(nobody is left)"; }
 };
 
-/// All that the dialogs show of the current player.
+/// All that dialogs show about the current player.
 inline std::string Status(const GameState& game) {
     const StatusLines s = DescribeStatus(game);
     return s.Title + "|" + s.Name + "|" + s.Money + "|" + s.Oil + "|" + s.Troops + "|" + s.Tanks + "|" +
@@ -43,7 +43,7 @@ inline std::string Status(const GameState& game) {
            AttacksLeftText(game) + BombText(game) + StatusOf(game, Track::Warfare);
 }
 
-/// `text` with these figures in the places of its # signs.
+/// `text` with its # signs replaced by the words of `figures`.
 inline std::string With(const std::string& figures, std::string text) {
     std::istringstream all(figures);
     for (std::string figure; all >> figure;) {
@@ -52,12 +52,12 @@ inline std::string With(const std::string& figures, std::string text) {
     return text;
 }
 
-/// A game that is played step by step.
+/// A game on a recorder, played step by step.
 struct Play {
     Play(int players, const std::string& world, const std::string& rolls)
         : Game(NewGame(players, world)), Chance(rolls) {}
 
-    /// Takes a step: what the player is told or the screens show then, and what has changed.
+    /// Takes `step` and expects this text to the player or these calls of the screens, and these changes.
     void Then(const std::string& step, const std::string& told, const std::string& changes = "") {
         SCOPED_TRACE(step);
         Seen.Calls.clear();
@@ -67,7 +67,7 @@ struct Play {
         EXPECT_TRUE(Consistent(Game));
     }
 
-    /// An order with a comma before each entry, or what happens between the orders.
+    /// Takes an order with its entries, separated by commas, or a step of the turn.
     std::string Take(const std::string& step) {
         std::array<std::string, 5> typed;
         std::istringstream rest(step);
@@ -75,16 +75,16 @@ struct Play {
             std::getline(rest, entry, ',');
         }
         const auto& [verb, first, second, third, fourth] = typed;
-        const auto said = [](const auto& outcome) { return std::visit(Said{}, outcome); };
-        return verb == "buy"       ? said(Buy(Game, {first, second, third, fourth}))
-               : verb == "sell"    ? said(Sell(Game, {first, second, third, fourth}))
-               : verb == "move"    ? said(Tran(Game, {first, second, third, fourth}))
-               : verb == "attack"  ? said(Attck(Game, Chance, {first, second, third, fourth}))
-               : verb == "strike"  ? said(Strike(Game, first))
-               : verb == "factory" ? said(Fact(Game, first))
-               : verb == "defense" ? said(Def(Game, first))
-               : verb == "upgrade" ? said(RaiseLevel(Game, static_cast<Track>(std::stoi(first))))
-               : verb == "upkeep"  ? Said{}(RunUpkeep(Game, Chance, Game.CurrentPlayer))
+        const auto text = [](const auto& outcome) { return std::visit(OutcomeText{}, outcome); };
+        return verb == "buy"       ? text(Buy(Game, {first, second, third, fourth}))
+               : verb == "sell"    ? text(Sell(Game, {first, second, third, fourth}))
+               : verb == "move"    ? text(Tran(Game, {first, second, third, fourth}))
+               : verb == "attack"  ? text(Attck(Game, Chance, {first, second, third, fourth}))
+               : verb == "strike"  ? text(Strike(Game, first))
+               : verb == "factory" ? text(Fact(Game, first))
+               : verb == "defense" ? text(Def(Game, first))
+               : verb == "upgrade" ? text(RaiseLevel(Game, static_cast<Track>(std::stoi(first))))
+               : verb == "upkeep"  ? OutcomeText{}(RunUpkeep(Game, Chance, Game.CurrentPlayer))
                : verb == "status"  ? Status(Game)
                : verb == "open"    ? (Turn.OpenFirstTurn(), "")
                : verb == "end"     ? (Turn.EndTurn(), "")
@@ -95,19 +95,19 @@ struct Play {
     GameState Game;
     ScriptedRandom Chance;
     Recorder Seen;
-    // A computer player's turn is no more than a report here.
+    // A computer player's turn only shows a report here.
     TurnCycle Turn{Game, Chance, Seen, [this] {
                        Game.ComputerTurnEnded = true;
                        Seen.ShowReport({"", Game.Current().Name + " plays", ""}, Game.CurrentPlayer);
                    }};
 };
 
-/// Steps of Anna's in a world: which, what is told, and what changes, which is nothing when she is refused.
+/// Steps of Anna's and their expected result, which is the same for each step of a row.
 struct Row {
-    const char* steps;  ///< a bar between those that all come to the same
+    const char* steps;  ///< separated by bars
     std::string told;
     std::string changes = "";
-    std::string otherwise = "";  ///< what is different in the world
+    std::string otherwise = "";  ///< differences of the initial state
     std::string rolls = "";
 };
 

@@ -8,13 +8,13 @@
 
 namespace vorlund {
 
-/// Screens that keep what they were asked to show, for the tests to look at.
+/// Screens that record their calls.
 class Recorder final : public Screens {
 public:
-    std::optional<CommandSet> Commands;  ///< as last set
-    Report Shown;                        ///< as last shown
+    std::optional<CommandSet> Commands;  ///< of the last SetCommands
+    Report Shown;                        ///< of the last ShowReport
     bool ReportVisible = false;
-    std::string Calls;  ///< all calls in their order, each with what it shows in few words
+    std::string Calls;  ///< all calls in order, with their arguments in short
 
     void RefreshMap() override { Calls += "RefreshMap; "; }
     void SetCommands(CommandSet available) override {

@@ -25,7 +25,7 @@ std::string Content(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The sample's file with `value` as its line number `changed`.
+/// The sample's file with line `changed` replaced by `value`.
 std::string WithLine(int changed, const std::string& value) {
     std::istringstream file(WriteGame(NewGame(2, Sample)));
     std::string bytes;
@@ -36,7 +36,7 @@ std::string WithLine(int changed, const std::string& value) {
     return bytes;
 }
 
-/// What a file gives: what is wrong with it and where, or what is different from the sample.
+/// The result of reading a file: the bad line and its fault, or the differences from the sample.
 std::string Read(const std::string& bytes) {
     const auto result = ReadGame(FreshGame(), bytes);
     const auto* const bad = std::get_if<BadFile>(&result);
@@ -44,8 +44,8 @@ std::string Read(const std::string& bytes) {
                           : Changes(NewGame(2, Sample), std::get<GameState>(result));
 }
 
-TEST(WriteGame, PutsEveryValueOnItsLineInItsForm) {
-    // A value of its own in every field of Ben's, true or false by turns; the writer takes what it is given.
+TEST(WriteGame, WritesEveryFieldInItsLineAndForm) {
+    // Each number of Ben's differs, and flags alternate. The writer does not check consistency.
     GameState game =
         NewGame(2,
                 "42 Anna 10/5D; Ben AttacksLeft 0 DebtTurns 7 EconomyLevel 2 Factories 6 Money -45 "
@@ -59,15 +59,15 @@ TEST(WriteGame, PutsEveryValueOnItsLineInItsForm) {
     EXPECT_TRUE(bytes.ends_with("\r\nTrue\r\nFalse\r\nTrue\r\n 0 \r\n 5 \r\n 10 \r\n 0 \r\n 1 \r\n"));
 }
 
-TEST(Windows1252, EveryByteIsOneCharacterAndReadsBack) {
+TEST(Windows1252, MapsEveryByteToOneCharacterAndBack) {
     std::string bytes(256, '\0');
     std::iota(bytes.begin(), bytes.end(), '\0');
     EXPECT_EQ(ToWindows1252(FromWindows1252(bytes)), bytes);
     EXPECT_EQ(FromWindows1252("\x80\x8C\x9F\xA0\xFF"), "\u20AC\u0152\u0178\u00A0\u00FF");
 }
 
-TEST(ReadGame, IsPatientWithFormsAndRefusesABadFileWithItsLine) {
-    // Values of a line that all come to the same, a bar behind every one.
+TEST(ReadGame, AcceptsSeveralFormsAndRefusesABadFileWithItsLine) {
+    // A line, its values, each ended by a bar, and their common result.
     const std::vector<std::tuple<int, std::string, std::string>> rows{
         {1, " 1 | 6 |" + std::string(MaxSavedGameBytes, ' ') + "2 |",
          "1: NumPlayers of the game must be a whole number from 2 to 5."},
@@ -111,13 +111,13 @@ TEST(ReadGame, IsPatientWithFormsAndRefusesABadFileWithItsLine) {
     EXPECT_EQ(Read(bare.substr(0, bare.size() - 3)), "371: The file ends before DeadPlayers of the game.");
 }
 
-TEST(Files, GiveASoundGameOrARefusalWhateverIsInThem) {
+TEST(ReadGame, KeepsTheInvariantsForAnyFile) {
     for (int line = 1; line <= 371; ++line) {
         for (const char* const value : {"", " 1 ", "-1", "True", "2", "4"}) {
             EXPECT_EQ(WrongWithGame(WithLine(line, value)), "") << line << ": " << value;
         }
     }
-    // What the fuzzers have found stays found.
+    // The inputs that the fuzzers have found
     for (const auto& entry : fs::recursive_directory_iterator(VORLUND_SOURCE_DIR "/tests/fuzz/corpus")) {
         if (entry.is_regular_file()) {
             const auto wrong = entry.path().extension() == ".vrs" ? WrongWithGame : WrongWithNumber;
@@ -126,11 +126,11 @@ TEST(Files, GiveASoundGameOrARefusalWhateverIsInThem) {
     }
 }
 
-TEST(GameName, GivesTheFileOrIsRefused) {
+TEST(GameName, GivesAFileNameOrIsRefused) {
     EXPECT_EQ(WhyNoGameName("100%&'~.."), std::nullopt);
     EXPECT_EQ(FileNameOf("  MY 100%&'~.. "), "my 100%&'~...vrs");
     EXPECT_EQ(FileNameOf("   "), ".vrs");
-    // The ends of each run of capitals, and what lies between the runs
+    // The ends of each run of capitals, and characters between the runs
     EXPECT_EQ(FileNameOf(
                   "@AZ[\u00C0\u00D6\u00D7\u00D8\u00DE\u00DF\u0100\u0101\u012E\u0130\u0131\u0132\u0136\u0138"),
               "@az[\u00E0\u00F6\u00D7\u00F8\u00FE\u00DF\u0101\u0101\u012F\u0130\u0131\u0133\u0137\u0138.vrs");
@@ -145,9 +145,9 @@ TEST(GameName, GivesTheFileOrIsRefused) {
         EXPECT_EQ(WhyNoGameName(name),
                   "A game name cannot hold a control character or any of these:\r\\ / : * ? \" < > |");
     }
-    for (const char* const half :
+    for (const char* const malformed :
          {"\xC3(", "\xC3", "\xC1\x81", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\x80", "\xE2\x82"}) {
-        EXPECT_EQ(WhyNoGameName(half),
+        EXPECT_EQ(WhyNoGameName(malformed),
                   "A character of the game name was cut in half.\rEnter the name again.");
     }
 }

@@ -10,14 +10,14 @@
 
 namespace vorlund {
 
-/// Chance from a script: "2/5 0/12" makes a die with 5 faces show 2, then one with 12 show 0. The test fails
-/// when the rules throw another die, and when a roll is missing or left over.
+/// A scripted generator: with "2/5 0/12" a die of 5 faces rolls 2, then one of 12 rolls 0. The test fails if
+/// another die is rolled, and if a roll is missing or left over.
 class ScriptedRandom final : public Random {
 public:
     explicit ScriptedRandom(const std::string& script) : script_(script) {}
     ~ScriptedRandom() override {
         std::string left;
-        EXPECT_FALSE(script_ >> left) << "not asked for: " << left;
+        EXPECT_FALSE(script_ >> left) << "not rolled: " << left;
     }
 
     int Reseedings = 0;

@@ -11,14 +11,14 @@
 namespace vorlund {
 namespace {
 
-/// That of the environment, as the toolkit's application would have set it, before any test begins.
+/// Set from the environment before any test, as QApplication does.
 const char* const Locale = std::setlocale(LC_ALL, "");
 
-TEST(Locale, OfTheEnvironmentIsThere) {
+TEST(Locale, OfTheEnvironmentExists) {
     EXPECT_TRUE(Locale != nullptr || std::getenv("LOCPATH") == nullptr);
 }
 
-/// Enters the names: the refusal with its beeps, or nothing.
+/// Enters names for a new game. Returns the refusal and its number of beeps, or an empty text.
 std::string Enter(GameState& game, const std::vector<std::string>& typed) {
     game = FreshGame();
     SetNumPlayers(game, static_cast<int>(typed.size()));
@@ -27,7 +27,7 @@ std::string Enter(GameState& game, const std::vector<std::string>& typed) {
     return refusal ? refusal->Prompt + " " + std::to_string(refusal->Beeps) : "";
 }
 
-TEST(EnterNames, TellsHumansFromComputersOrNamesTheLastBadRow) {
+TEST(EnterNames, MakesHumansAndComputersOrRefusesTheLastBadRow) {
     const std::string umlauts = "\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4";
     GameState game;
     EXPECT_EQ(Enter(game, {"COMP", "comp 2", "cOmPuTeR", umlauts}), "");
@@ -40,28 +40,31 @@ TEST(EnterNames, TellsHumansFromComputersOrNamesTheLastBadRow) {
     EXPECT_EQ(Enter(game, {"comp", "computer"}), "You must have at least one human player. 0");
 }
 
-TEST(Selection, HumansSelectInTurnThenComputersAwayFromEverybody) {
+TEST(Selection, OfHumansInTurnThenOfComputersWithoutNeighbours) {
     GameState game;
     Enter(game, {"Anna", "comp", "Carl", "comp"});
-    game.Players[0].Oil = 7;  // left over
+    game.Players[0].Oil = 7;  // from an earlier game
     const GameState before = game;
-    // The lot falls on a computer first. The computers pass by a taken territory, a neighbour of a human's
-    // and one of each other's.
+    // The first draw of a selector gives a computer. The computers' draws of an occupied territory, of a
+    // human's neighbour and of a computer's neighbour are repeated.
     ScriptedRandom random("1/4 2/4 34/42 8/42 26/42 25/42 0/42");
     Selection selection(game, random);
     EXPECT_EQ(selection.Open(), "Player 3, Carl, has been chosen to select first.");
     const auto enter = [&](const char* typed) {
+        constexpr std::array Kinds{"Rejected: ", "NextHuman: ", "Ended: "};
         const auto [kind, message] = selection.Entr(typed);
-        return message + std::to_string(static_cast<int>(kind)) + std::to_string(random.Reseedings);
+        return Kinds.at(static_cast<std::size_t>(kind)) + message;
     };
-    EXPECT_EQ(enter("7"), "Player 3 selected Midwest USA\rPlayer 1, Anna, select a territory.14");
+    EXPECT_EQ(enter("7"), "NextHuman: Player 3 selected Midwest USA\rPlayer 1, Anna, select a territory.");
+    EXPECT_EQ(random.Reseedings, 4);
     for (const char* const typed : {"", "ab", "0", "43", ".5", "42.1", "1e9"}) {
-        EXPECT_EQ(enter(typed), "Invalid territory selection.\rPlayer 1, Anna, select again.04");
+        EXPECT_EQ(enter(typed), "Rejected: Invalid territory selection.\rPlayer 1, Anna, select again.");
     }
     for (const char* const typed : {"7", "6.6", "7.5"}) {
-        EXPECT_EQ(enter(typed), "Territory already occupied.\rPlayer 1, Anna, select again.04");
+        EXPECT_EQ(enter(typed), "Rejected: Territory already occupied.\rPlayer 1, Anna, select again.");
     }
-    EXPECT_EQ(enter(" 35 "), "Player 1 selected Japan\r25");
+    EXPECT_EQ(enter(" 35 "), "Ended: Player 1 selected Japan\r");
+    EXPECT_EQ(random.Reseedings, 5);
     EXPECT_TRUE(game.CurrentPlayer == 2 && game.StartingPlayer == 2);
     EXPECT_EQ(Changes(before, game),
               "1 CompPlayer4 10/0F; 7 Carl 10/0F; 27 CompPlayer2 10/0F; 35 Anna 10/0F; "
@@ -71,9 +74,10 @@ TEST(Selection, HumansSelectInTurnThenComputersAwayFromEverybody) {
               "CompPlayer4 Factories 1 Money 9000 Oil 9000 Troops 10");
 }
 
-TEST(ClockRandom, IsUniformAndNeverRepeatsOnReseeding) {
+TEST(ClockRandom, IsUniformAndReseedsWithoutRepeating) {
     ClockRandom random;
-    std::set<std::pair<int, int>> starts;  // of two draws: of one, two in a hundred are the same now and then
+    std::set<std::pair<int, int>>
+        starts;  // two draws each, because single ones are sometimes equal by chance
     float sum = 0;
     for (int i = 0; i < 100; ++i) {
         random.Reseed();
@@ -86,7 +90,7 @@ TEST(ClockRandom, IsUniformAndNeverRepeatsOnReseeding) {
     EXPECT_EQ(random.Draw(0), 0);
 }
 
-TEST(FirstFlaw, NamesEachBrokenRecord) {
+TEST(FirstFlaw, NamesTheFieldOfEachInvariant) {
     const std::string land = "4 Anna 1/0; 5 Ben 0/0; ";
     const auto flawOf = [](const GameState& game) { return FirstFlaw(game).value_or(Flaw{}).What; };
     const std::vector<std::pair<std::string, std::string>> worlds{

@@ -49,15 +49,16 @@ inline const std::map<std::string, PlayerField> PlayerFields{
     {"IsComputer", &Player::IsComputer},
 };
 
-/// What differs between two states of a game: "7 Ben 10/3FD; Ben Tanks 3 Troops 10" is a territory by its
-/// number with owner, troops, tanks, factory and defense, and a player's fields with what they have become.
+/// The differences between two states of a game. "7 Ben 10/3FD; Ben Tanks 3 Troops 10" means: territory 7 has
+/// changed and now has this owner, 10 troops, 3 tanks, a factory and a defense; two of Ben's fields have
+/// these new values.
 inline std::string Changes(const GameState& before, const GameState& after) {
     std::ostringstream changes;
-    const char* between = "";
+    const char* separator = "";
     for (int t = 0; t < NumTerritories; ++t) {
         const Territory& now = after.TerritoryAt(t);
         if (now != before.TerritoryAt(t)) {
-            changes << std::exchange(between, "; ") << t + 1 << " "
+            changes << std::exchange(separator, "; ") << t + 1 << " "
                     << (now.Occupied ? after.PlayerAt(now.Owner).Name : "nobody") << " "
                     << now.Stationed.Troops << "/" << now.Stationed.Tanks << (now.HasFactory ? "F" : "")
                     << (now.HasDefense ? "D" : "");
@@ -66,31 +67,32 @@ inline std::string Changes(const GameState& before, const GameState& after) {
     for (int p = 0; p < after.NumPlayers; ++p) {
         std::string who = after.PlayerAt(p).Name;
         for (const auto& [name, member] : PlayerFields) {
-            const auto tell = [&, &field = name](auto value) {
+            const auto addField = [&, &field = name](auto value) {
                 if (In(after.PlayerAt(p), value) != In(before.PlayerAt(p), value)) {
-                    changes << (who.empty() ? "" : std::exchange(between, "; ")) << std::exchange(who, "")
+                    changes << (who.empty() ? "" : std::exchange(separator, "; ")) << std::exchange(who, "")
                             << " " << field << " " << In(after.PlayerAt(p), value);
                 }
             };
-            std::visit(tell, member);
+            std::visit(addField, member);
         }
     }
     return changes.str();
 }
 
-/// Adds to `game` what `world` says in the words of Changes; a territory that has an owner stays as it is.
+/// Applies `world`, in the notation of Changes, to `game`. A territory that already has an owner is not
+/// changed.
 inline void Put(GameState& game, std::string world) {
     std::replace(world.begin(), world.end(), ';', ' ');
     std::istringstream words(world);
     int t = 0;
     int p = 0;
-    const auto read = [&](auto field) { words >> In(game.PlayerAt(p), field); };
+    const auto readField = [&](auto field) { words >> In(game.PlayerAt(p), field); };
     for (std::string word; words >> word;) {
         const auto slash = word.find('/');
         if (PlayerFields.contains(word)) {
-            std::visit(read, PlayerFields.at(word));
+            std::visit(readField, PlayerFields.at(word));
         } else if (word[0] > '9') {
-            p = word[0] - 'A';  // the names are Anna, Ben and so on
+            p = word[0] - 'A';  // the names begin with A, B, C ...
         } else if (slash == std::string::npos) {
             t = std::stoi(word) - 1;
         } else if (!game.TerritoryAt(t).Occupied) {
@@ -105,8 +107,8 @@ inline void Put(GameState& game, std::string world) {
         static_cast<std::int16_t>(std::count_if(game.Players.begin(), game.Players.end(), isDead));
 }
 
-/// A game of `players` humans called Anna, Ben, Cleo, Dora and Emil in which player 0 has the turn, everybody
-/// is past the first turn, and nobody owns anything but what `world` says.
+/// A game of `players` humans called Anna, Ben, Cleo, Dora and Emil after their first turns, in which Anna
+/// has the turn and territories belong to players as `world` says.
 inline GameState NewGame(int players, const std::string& world = "") {
     static constexpr const char* Names[] = {"Anna", "Ben", "Cleo", "Dora", "Emil"};
     GameState game;

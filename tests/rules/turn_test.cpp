@@ -15,17 +15,17 @@ TEST(Upkeep, BooksAndReports) {
     const std::string debt = "Your economy is in debt- economic unrest spreads through your land.\r";
     const std::string collapse = "Your territories collapse due to prolonged periods of lack of funds.";
     const std::vector<Row> rows{
-        // Four territories, an oil field and Economy level 2; a share of a dollar is cut off.
+        // Four territories, an oil field and Economy level 2; income is rounded down.
         {"upkeep", report("22 3 187 165"), "Anna Money 265 Oil 12",
          "1 Anna 10/3F 2 Anna 0/0F 3 Anna 0/0 4 Anna 0/0 Anna Money 100 EconomyLevel 2", "0/13"},
         {"upkeep", report("0 0 50 50"), "Anna Money 50", "Anna EconomyLevel 3", "0/13"},  // of 50.70
-        // Missing oil is settled in money; two turns in debt do not matter when money is there again.
+        // Missing oil costs money. Two earlier turns in debt have no effect while there is money.
         {"upkeep", report("0 7 39 39") + debt, "Anna DebtTurns 1 Money -2", "2 Anna 0/7 Anna Money -34",
          "0/13"},
         {"upkeep", report("0 0 39 39"), "Anna Money 0", "Anna Money -39 DebtTurns 2", "0/13"},
         {"upkeep", report("9 1 39 30") + debt + collapse, "2 nobody 0/0; Anna DebtTurns 3 IsDead 1 Money -1",
          "2 Anna 4/1FD Anna Money -30 DebtTurns 2", "0/13"},
-        // Sums stop at the ends of the fields.
+        // Sums saturate.
         {"upkeep", report("0 0 78 78"), "Anna Money 32767 Oil 32767", "1 Anna 0/0 Anna Money 32760 Oil 32760",
          "0/13"},
         {"upkeep", report("32767 0 39 -32728") + debt, "Anna DebtTurns 1 Money -32768",
@@ -43,7 +43,7 @@ const std::string TurnBegins =
     "'Vorlund - #'s turn'; RefreshMap; ShowReport # Upkeep status for Player #, #.; ";
 const std::string Won = "ShowGameOver; 'Vorlund - # wins'; Announce Player #, #, you win the game!; ";
 
-TEST(Turn, GivesTheNextOneAliveEverythingButTheCommands) {
+TEST(Turn, PassesToTheNextLivingPlayerWithCommandsAfterTheReport) {
     Play play(5,
               "1 Anna 0/0 21 Cleo 0/0 Ben IsDead 1 Dora IsDead 1 Emil IsDead 1 "
               "Anna MovesLeft 0 FirstTurn 1 Cleo AttacksLeft 1 FirstTurn 1",
@@ -58,7 +58,7 @@ TEST(Turn, GivesTheNextOneAliveEverythingButTheCommands) {
     EXPECT_EQ(play.Chance.Reseedings, 3);
 }
 
-TEST(Turn, AnnouncesTheLastOneAliveWhoeverItIs) {
+TEST(Turn, AnnouncesTheLastPlayerAliveHumanOrComputer) {
     for (const std::string computer : {"0", "1"}) {
         Play play(3, "11 Ben 1/0 Anna IsDead 1 Cleo IsDead 1 Ben IsComputer " + computer, "");
         play.Then("end", Ended + With("Ben 2 Ben", Won));
@@ -66,7 +66,7 @@ TEST(Turn, AnnouncesTheLastOneAliveWhoeverItIs) {
     }
 }
 
-TEST(Turn, ComesBackWhenNobodyLives) {
+TEST(Turn, PassesToTheSamePlayerWhenNobodyIsAlive) {
     Play play(2, "Anna IsDead 1 Ben IsDead 1", "0/13");
     NobodyWins(play.Seen);
     EXPECT_EQ(play.Seen.Calls,
@@ -74,32 +74,32 @@ TEST(Turn, ComesBackWhenNobodyLives) {
     play.Then("end", Ended + With("Anna 1 1 Anna", TurnBegins));
 }
 
-TEST(Turn, OfTheLastButOneWhoCollapsesStillEnds) {
+TEST(Turn, CanBeEndedByAPlayerWhoseCollapseLeavesOneAlive) {
     Play play(2, "1 Anna 0/0 11 Ben 0/0 Ben DebtTurns 2 Money -100", "0/13");
     play.Then("end", Ended + With("Ben 2 2 Ben", TurnBegins),
               "11 nobody 0/0; Ben DebtTurns 3 IsDead 1 Money -61");
     play.Then("close", "EndTurn; ");
     play.Then("end", Ended + With("Anna 1 Anna", Won));
-    play.Game.GameOver = false;  // as if Anna had won in her own turn: the commands stay as they are
+    play.Game.GameOver = false;  // a single living player without GameOver: no commands either
     play.Then("close", "");
 }
 
-TEST(Turn, GoesFromComputerToComputerAndOnToTheNextHuman) {
+TEST(Turn, PassesFromComputerToComputerToHuman) {
     Play play(5,
               "1 Anna 1/0 11 Ben 1/0 31 Dora 1/0 41 Emil 1/0 Cleo IsDead 1 Ben IsComputer 1 Dora IsComputer "
               "1 AttacksLeft 0",
               "0/13 0/13");
     play.Then("end", Ended + "'Vorlund - Ben's turn'; ShowReport 2 Ben plays; ");
-    play.Then("close", "ShowReport 4 Dora plays; ");  // who gets no attacks after a computer
+    play.Then("close", "ShowReport 4 Dora plays; ");  // whose attacks are not replenished
     play.Then("close", "CloseDialogs; no commands; " + With("Emil 5 5 Emil", TurnBegins), "Emil Money 37");
     EXPECT_FALSE(play.Game.ComputerTurnEnded);
     play.Then("close", "all commands; ");
-    play.Game.ComputerTurnEnded = true;  // as if a computer's report stood before a human
+    play.Game.ComputerTurnEnded = true;  // a computer's report in a human's turn
     play.Then("close", "CloseDialogs; no commands; " + With("Anna 1 1 Anna", TurnBegins),
               "Anna Money 37 Oil 15");
 }
 
-TEST(Turn, TellsWhyACommandIsMissing) {
+TEST(Commands, HaveAReasonWhyTheyAreUnavailable) {
     GameState game =
         NewGame(2, "1 Anna 0/0 Ben IsDead 1 Anna FirstTurn 1 WarfareLevel 3 AttacksLeft 0 MovesLeft 0");
     EXPECT_EQ(WhyUnavailable(game, Command::Attack), "Nobody attacks in their first turn.");
@@ -121,24 +121,24 @@ struct ComputerRow {
     std::string world;
     std::string rolls;
     std::string changes;
-    std::string told = "";  ///< where it matters
+    std::string body = "";  ///< of the report; empty if it is not compared
 };
 
-// The first rolls of a turn: no bomb, no luck with a second claim, both scans forward.
-const std::string Plain = "0/5 2/3 2/5 4/10 4/10 ";
+// The first rolls of a turn: no bomb, no second claim, both scans forward.
+const std::string NoLuck = "0/5 2/3 2/5 4/10 4/10 ";
 const std::string FirstTurn = "0/5 4/10 4/10 ";
 
-// Ben plays. Japan, 35, borders on 34 alone, and so do South Africa, 27, on 26, and 26 on 25 and 27.
+// Ben plays. The only neighbour of 35 is 34, that of 27 is 26, and those of 26 are 25 and 27.
 const std::vector<ComputerRow> ComputerTurns{
     {3, "6 Ben 10/2; 35 Ben 4/0; 7 Anna 21/5D; 34 Anna 2/0; 9 Cleo 1/0F; Anna WarfareLevel 3",
-     "2/5 1/3 1/5 5/10 4/10 "    // a bomb, a second claim, from the last territory and the first slot
-     "2/6 0/6 11/76 "            // claims 2 with a defense, then 1 without; tanks for the front
-     "1/2 0/3 2/3 1/5 "          // 1 borders 2: a troop and a tank, then 29: a troop
+     "2/5 1/3 1/5 5/10 4/10 "  // a bomb, a second claim, from the last territory and the first slot
+     "2/6 0/6 11/76 "    // claims 2 with a defense, then 1 without; a tank for each border with an enemy
+     "1/2 0/3 2/3 1/5 "  // 1 borders 2: a troop and a tank, then 29: a troop
      "0/2 1/3 2/3 2/3 3/4 1/3 "  // 2 borders 1 and 3: a troop each, then 6: nothing, it has 4
      "2/10 0/7 "                 // 6 borders 2: a troop and a tank
-     "6/12 5/12 "                // Mexico falls for one troop
-     "6/15 7/15 14/15 5/15 8/15 9/15 10/15 11/15 12/15",  // Manchuria holds
-     // What was created does not count in Ben's totals, what fell does.
+     "6/12 5/12 "                // Mexico is captured for one troop
+     "6/15 7/15 14/15 5/15 8/15 9/15 10/15 11/15 12/15",  // Manchuria holds out
+     // New units are not added to Ben's totals, losses are subtracted.
      "1 Ben 4/1; 2 Ben 5/1D; 6 Ben 2/0F; 7 Anna 11/4D; 9 Ben 12/5; 34 Anna 1/0; 35 Ben 2/0; "
      "Anna Tanks 4 Troops 12; Ben Factories 1 Tanks 1 Troops 8; Cleo Factories 0 IsDead 1 Troops 0",
      "Moved forces into Vancouver Territory.\rMoved forces into Alaskan Territory.\r"
@@ -147,48 +147,48 @@ const std::vector<ComputerRow> ComputerTurns{
      "Ben lost 1/0 troops/tanks, and defender lost 1/0 troops/tanks.\rPlayer 3 is now dead.\r"
      "\rAttack on Manchurian Territory, Anna, was held off.\r"
      "Ben lost 5/1 troops/tanks, and defender lost 1/0 troops/tanks.\r"},
-    {2, "35 Ben 20/0F; 34 Anna 1/0", Plain + "12/79 0/12",  // a victory ends it
+    {2, "35 Ben 20/0F; 34 Anna 1/0", NoLuck + "12/79 0/12",  // after a victory there is no further attack
      "34 Ben 21/0; 35 Ben 2/0F; Anna IsDead 1 Troops 0"},
-    // Two players and luck are a second claim, three without luck claim one, and four have no such luck.
+    // A second claim: rolled in a game of two, not rolled in a game of three, not possible in a game of four.
     {2, "27 Ben 1/0F; 1 Anna 1/0", "0/5 1/3 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7",
      "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F"},
     {3, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0", "0/5 1/3 2/5 5/10 4/10 1/6 50/78 3/7 4/7",
      "26 Ben 4/0; 27 Ben 3/1F"},
     {4, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0", "0/5 1/3 1/5 5/10 4/10 1/6 50/78 4/7 4/7",
      "26 Ben 4/1; 27 Ben 3/1F"},
-    // In their first turn everybody claims two, and nobody attacks.
+    // The first turn: two claims and no attack.
     {4, "27 Ben 1/0F; 1 Anna 1/0; 2 Cleo 1/0; 3 Dora 1/0; Ben FirstTurn 1",
      "0/5 5/10 4/10 1/6 1/6 50/77 4/7 4/7 4/7", "25 Ben 4/1; 26 Ben 4/1; 27 Ben 3/1F; Ben FirstTurn 0"},
-    // The free factory comes where a tank counts three, and to the last among equals.
+    // The free factory is built in the strongest territory, a tank counting three, and in the last of equals.
     {2, "27 Ben 2/1; 35 Ben 4/0; 26 Anna 0/0; 34 Anna 0/0; Ben FirstTurn 1", FirstTurn + "12/78",
      "27 Ben 3/1F; 35 Ben 5/0; Ben Factories 1 FirstTurn 0"},
     {2, "27 Ben 0/0; 35 Ben 0/0; 26 Anna 1/0; 34 Anna 1/0; Ben FirstTurn 1", FirstTurn + "12/78",
      "27 Ben 1/0; 35 Ben 1/0F; Ben Factories 1 FirstTurn 0"},
-    // A scan forward, last slots first, and one backward and on from the land just claimed.
+    // A scan forward from the last slot, and one backward that goes on from the territory just claimed.
     {2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0", "0/5 1/3 4/10 5/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7",
      "4 Ben 3/0F; 5 Ben 4/0; 8 Ben 4/0D; 35 Ben 3/0"},
     {2, "4 Ben 1/0F; 35 Ben 1/0; 40 Anna 1/0", "0/5 1/3 5/10 4/10 1/6 2/6 50/76 3/7 3/7 3/7 3/7",
      "4 Ben 3/0F; 29 Ben 4/0D; 34 Ben 4/0; 35 Ben 3/0"},
-    // Three troops never attack, and 5 against 1 are not enough.
-    {2, "27 Ben 2/90F; 26 Anna 0/0; 35 Ben 4/0; 34 Anna 1/0; Ben HasNuke 1", Plain + "12/78",
+    // Three troops do not attack; 5 against 1 are too few.
+    {2, "27 Ben 2/90F; 26 Anna 0/0; 35 Ben 4/0; 34 Anna 1/0; Ben HasNuke 1", NoLuck + "12/78",
      "27 Ben 3/90F; 35 Ben 5/0"},
-    // 6 against 1 are; a tank counts two for the attacker, and three and no more for the defender.
-    {2, "27 Ben 5/0F; 26 Anna 1/0; 35 Ben 3/1; 34 Anna 1/0; 1 Anna 0/0", Plain + "12/78 0/12 0/12",
+    // 6 against 1 are enough; a tank counts two for the attacker and three for the defender.
+    {2, "27 Ben 5/0F; 26 Anna 1/0; 35 Ben 3/1; 34 Anna 1/0; 1 Anna 0/0", NoLuck + "12/78 0/12 0/12",
      "26 Ben 6/0; 27 Ben 2/0F; 34 Ben 4/1; 35 Ben 2/0; Anna Troops 0"},
-    {2, "27 Ben 7/0F; 26 Anna 1/1; 35 Ben 8/0; 34 Anna 1/1", Plain + "12/78 0/12 0/12 0/12 0/12",
+    {2, "27 Ben 7/0F; 26 Anna 1/1; 35 Ben 8/0; 34 Anna 1/1", NoLuck + "12/78 0/12 0/12 0/12 0/12",
      "27 Ben 8/0F; 34 Ben 9/0; 35 Ben 2/0; Anna Tanks 1 Troops 1"},
-    // A bomb waits for 20 troops and takes the first such target.
-    {3, "35 Ben 2/0F; 1 Anna 19/50; 34 Cleo 20/7; 36 Anna 400/0; Ben HasNuke 1", Plain + "12/79",
+    // A bomb is dropped on the first territory with 20 troops.
+    {3, "35 Ben 2/0F; 1 Anna 19/50; 34 Cleo 20/7; 36 Anna 400/0; Ben HasNuke 1", NoLuck + "12/79",
      "34 Cleo 10/6; 35 Ben 3/0F; Ben HasNuke 0; Cleo Tanks 6 Troops 10"},
-    // Attacks go by number, then by slot, and on from what was taken.
+    // The first territory that can attacks its first possible slot; a captured one can attack next.
     {2,
      "4 Ben 30/0F; 21 Ben 900/0; 3 Anna 3/0; 7 Anna 4/0; 8 Anna 2/0; 20 Anna 1/0; "
      "5 Anna 99/0; 19 Anna 999/0; 30 Anna 999/0",
-     Plain + "12/78 0/12 0/12 0/12 0/12 0/12 0/12 0/12",
+     NoLuck + "12/78 0/12 0/12 0/12 0/12 0/12 0/12 0/12",
      "3 Ben 2/0; 4 Ben 2/0F; 7 Ben 30/0; Anna Troops 2100"},
 };
 
-TEST(ComputerTurn, GoesByItsRules) {
+TEST(ComputerTurn, FollowsTheRules) {
     for (const ComputerRow& row : ComputerTurns) {
         SCOPED_TRACE(row.world);
         Play play(row.players, row.world + "; Ben IsComputer 1", row.rolls);
@@ -202,7 +202,7 @@ TEST(ComputerTurn, GoesByItsRules) {
                             : shown),
                   row.changes);
         EXPECT_EQ(play.Seen.Shown.Title, "Computer player Ben's status");
-        EXPECT_EQ(play.Seen.Shown.Body, row.told.empty() ? play.Seen.Shown.Body : row.told);
+        EXPECT_EQ(play.Seen.Shown.Body, row.body.empty() ? play.Seen.Shown.Body : row.body);
         EXPECT_TRUE(play.Game.GameOver == wins && play.Game.ComputerTurnEnded != wins);
         EXPECT_EQ(play.Chance.Reseedings, 1);
     }
