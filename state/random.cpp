@@ -13,8 +13,12 @@ int ClockRandom::Draw(int faces) {
     return static_cast<int>(std::floor(static_cast<double>(u) * faces));
 }
 
+std::uint64_t ClockRandom::SystemTicks() {
+    return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
 void ClockRandom::SeedFromClock() {
-    const auto now = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+    const std::uint64_t now = clock_();
     std::seed_seq seed{static_cast<std::uint32_t>(now & 0xFFFFFFFFU), static_cast<std::uint32_t>(now >> 32U),
                        ++reseedings_};
     engine_.seed(seed);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <random>
+#include <utility>
 
 namespace vorlund {
 
@@ -22,18 +24,23 @@ public:
 /// Reseed within one tick of the clock start different sequences.
 class ClockRandom : public Random {
 public:
-    ClockRandom() { SeedFromClock(); }
+    using Clock = std::function<std::uint64_t()>;
+
+    /// Seeds from `clock`, whose unit does not matter.
+    explicit ClockRandom(Clock clock = SystemTicks) : clock_(std::move(clock)) { SeedFromClock(); }
 
     /// Starts with a fixed sequence, for tests that must be repeatable.
-    explicit ClockRandom(std::uint32_t seed) : engine_(seed) {}
+    explicit ClockRandom(std::uint32_t seed) : clock_(SystemTicks), engine_(seed) {}
 
     /// floor(u * `faces`) for the next uniform single-precision value u, 0 <= u < 1.
     int Draw(int faces) override;
     void Reseed() override { SeedFromClock(); }
 
 private:
+    static std::uint64_t SystemTicks();
     void SeedFromClock();
 
+    Clock clock_;
     std::mt19937 engine_;
     std::uint32_t reseedings_ = 0;
 };

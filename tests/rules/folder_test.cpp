@@ -171,6 +171,7 @@ TEST_F(SavedGames, AreTheOldOrTheNewOneWhicheverCallFails) {
     for (const auto& [overOld, row] : rows) {
         FailingCalls none;
         EXPECT_EQ(Save(none, overOld), Saved);
+        EXPECT_TRUE(overOld || fs::status(path).permissions() == fs::perms::owner_all);
         std::istringstream expected(row);
         std::vector<std::string> names;
         bool began = false;

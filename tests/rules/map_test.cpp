@@ -13,6 +13,19 @@ namespace {
 
 using Point = std::pair<int, int>;  ///< in tenths of a pixel, as in the files
 
+TEST(World, HasItsNamesPlacesAndSlotsInOrder) {
+    std::uint32_t checksum = 0;
+    const auto add = [&](int value) { checksum = checksum * 31 + static_cast<std::uint32_t>(value); };
+    for (const WorldEntry& entry : World) {
+        std::for_each(entry.Name.begin(), entry.Name.end(), add);
+        std::for_each(entry.Neighbours.begin(), entry.Neighbours.end(), add);
+        for (const int value : {int{entry.Value}, int{entry.MapX}, int{entry.MapY}, int{entry.HasOil}}) {
+            add(value);
+        }
+    }
+    EXPECT_EQ(checksum, 898975971U) << "the table has changed";
+}
+
 TEST(Map, OutlinesAndBordersAgreeWithNeighboursAndMarkers) {
     std::ifstream file(VORLUND_SOURCE_DIR "/assets/map/outlines.txt");
     // Neighbours across the sea, by number; those with a common border are added below.

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <regex>
+
 #include "tests/rules/play.h"
 
 namespace vorlund {
@@ -90,6 +92,16 @@ TEST(Orders, BuildAndUpgrade) {
         {"upgrade,1", "You do not have enough money for this upgrade.", "", "Anna WarfareLevel 2"},
         {"upgrade,2", "(nothing)", "", "Anna NuclearLevel 3"},  // the highest level
     });
+    std::string prices;
+    for (const Track track : {Track::Economy, Track::Warfare, Track::Nuclear}) {
+        for (const std::string level : {"0", "1", "2", "3"}) {
+            const GameState game = NewGame(
+                2, "Anna EconomyLevel " + level + " WarfareLevel " + level + " NuclearLevel " + level);
+            prices += StatusOf(game, track).substr(std::string("Current Economy upgrade: 0").size());
+        }
+    }
+    EXPECT_EQ(std::regex_replace(prices, std::regex("\rNext upgrade cost: "), ""),
+              "$150$300$450$max$200$400$600$max$100$300$700$max");
 }
 
 TEST(Orders, Transport) {
@@ -177,13 +189,18 @@ TEST(Orders, Strike) {
         {"strike,9", "(beep)", "", "Anna HasNuke 0"},
         {"strike", "Enter a number 1-42 for the country to nuke."},
         {"strike,42x|strike,42.5|strike,.9", "The country number must be 1-42."},
-        {"strike,2", "You may not nuke an unoccupied territory."},
+        {"strike,1|strike,42", "You may not nuke an unoccupied territory."},
         {"strike,7", "You may not nuke your own territory."},
     });
 }
 
 TEST(Orders, Status) {
     ExpectOrders({
+        {"status",
+         "Vorlund - Player 1 status|Anna|$500|10|44|3|2|0|0|0|0\rDeveloping nuke...|1 / 2|- $0|"
+         "You have $500 to spend.You have 2 moves left this turn.You have 1 attack left this turn."
+         "You do not have a nuclear bomb.Current Warfare upgrade: 0\rNext upgrade cost: $200",
+         "", "Anna Factories 2 Troops 44 AttacksLeft 1 HasNuke 0"},
         {"status",
          "Vorlund - Player 1 status|Anna|$-45|12|50|3|1|4|1|3|2\rNuke awaiting use...|3 / 1|- $2|"
          "You have $-45 to spend.You have 1 move left this turn.You have 0 attacks left this turn."

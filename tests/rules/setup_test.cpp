@@ -43,7 +43,7 @@ TEST(EnterNames, MakesHumansAndComputersOrRefusesTheLastBadRow) {
 TEST(Selection, OfHumansInTurnThenOfComputersWithoutNeighbours) {
     GameState game;
     Enter(game, {"Anna", "comp", "Carl", "comp"});
-    game.Players[0].Oil = 7;  // from an earlier game
+    Put(game, "Anna Oil 7 Factories 3 Troops 9");  // from an earlier game
     const GameState before = game;
     // The first draw of a selector gives a computer. The computers' draws of an occupied territory, of a
     // human's neighbour and of a computer's neighbour are repeated.
@@ -75,19 +75,35 @@ TEST(Selection, OfHumansInTurnThenOfComputersWithoutNeighbours) {
 }
 
 TEST(ClockRandom, IsUniformAndReseedsWithoutRepeating) {
-    ClockRandom random;
     std::set<std::pair<int, int>>
         starts;  // two draws each, because single ones are sometimes equal by chance
     float sum = 0;
-    for (int i = 0; i < 100; ++i) {
-        random.Reseed();
-        const int first = random.Draw(1 << 24);
-        sum += static_cast<float>(first);
-        starts.emplace(first, random.Draw(1 << 24));
+    for (const std::uint64_t now : {1ULL, 2ULL, 1ULL << 40U}) {
+        ClockRandom random([now] { return now; });  // a clock that does not tick between reseedings
+        for (int i = 0; i < 100; ++i) {
+            random.Reseed();
+            const int first = random.Draw(1 << 24);
+            sum += static_cast<float>(first);
+            starts.emplace(first, random.Draw(1 << 24));
+        }
+        EXPECT_EQ(random.Draw(0), 0);
     }
-    EXPECT_EQ(starts.size(), 100U);
-    EXPECT_NEAR(sum / (1 << 24), 50, 15);
-    EXPECT_EQ(random.Draw(0), 0);
+    EXPECT_EQ(starts.size(), 300U);
+    EXPECT_NEAR(sum / (1 << 24), 150, 15);
+    EXPECT_NE(ClockRandom().Draw(1 << 24), ClockRandom().Draw(1 << 24));
+}
+
+TEST(ResetGame, ClearsTerritoriesPlayersAndTheEndOfTheGame) {
+    GameState game = NewGame(2,
+                             "7 Anna 1/1FD; Anna Money 5 Oil 6 DebtTurns 1 EconomyLevel 1 WarfareLevel 1 "
+                             "NuclearLevel 1 HasNuke 1 IsComputer 1 IsDead 1");
+    game.GameOver = game.ComputerTurnEnded = true;
+    const GameState before = game;
+    ResetGame(game);
+    EXPECT_EQ(Changes(before, game),
+              "7 nobody 0/0; Anna DebtTurns 0 EconomyLevel 0 FirstTurn 1 HasNuke 0 IsComputer 0 IsDead 0 "
+              "NuclearLevel 0 Tanks 0 Troops 0 WarfareLevel 0; Ben FirstTurn 1");
+    EXPECT_FALSE(game.GameOver || game.ComputerTurnEnded || Owns(game, 0, 6));
 }
 
 TEST(FirstFlaw, NamesTheFieldOfEachInvariant) {

@@ -25,6 +25,9 @@ TEST(Upkeep, BooksAndReports) {
         {"upkeep", report("0 0 39 39"), "Anna Money 0", "Anna Money -39 DebtTurns 2", "0/13"},
         {"upkeep", report("9 1 39 30") + debt + collapse, "2 nobody 0/0; Anna DebtTurns 3 IsDead 1 Money -1",
          "2 Anna 4/1FD Anna Money -30 DebtTurns 2", "0/13"},
+        // Without a new debt, too, as in a loaded game
+        {"upkeep", report("0 0 39 39") + collapse, "2 nobody 0/0; Anna IsDead 1 Money 39", "Anna DebtTurns 4",
+         "0/13"},
         // Sums saturate.
         {"upkeep", report("0 0 78 78"), "Anna Money 32767 Oil 32767", "1 Anna 0/0 Anna Money 32760 Oil 32760",
          "0/13"},
