@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QScreen>
+#include <QToolTip>
 #include <array>
 
 #include "ui/machine/data_folder.h"
 #include "ui/machine/single_copy.h"
 #include "ui/machine/sound_player.h"
 #include "ui/parts/accessible.h"
+#include "ui/parts/help_key.h"
 #include "ui/parts/input_filter.h"
 #include "ui/parts/look.h"
 #include "ui/parts/zoom.h"
@@ -51,10 +53,12 @@ int main(int, char** arguments) {
         vorlund::Zoom::OfApplication().Set(
             vorlund::StartingZoom(vorlund::frm3::Size, screen->availableSize(), scaled));
     }
+    QToolTip::setPalette(vorlund::ToolTipColours());
     vorlund::DescribeScreensToAssistiveTechnology();
     vorlund::GameState game;
     vorlund::ClockRandom random;
     vorlund::Program program(game, random, saves, sounds);
+    const vorlund::HelpKey help([&program] { program.ShowRules(); });
     program.Start();
     return QApplication::exec();
 }

@@ -7,6 +7,7 @@
 #include "ui/windows/frm1.h"
 #include "ui/windows/frm2.h"
 #include "ui/windows/frmLoad.h"
+#include "ui/windows/rules_page.h"
 
 namespace vorlund {
 
@@ -41,11 +42,16 @@ void Program::OpenBoard() {
     load_.CloseOutright();
 }
 
+void Program::ShowRules() {
+    rules_.Present([] { return std::make_unique<RulesPage>(); });
+}
+
 void Program::End() {
     screens_.CloseEverything();
     title_.CloseOutright();
     newGame_.CloseOutright();
     load_.CloseOutright();
+    rules_.CloseOutright();
     QCoreApplication::exit(0);
 }
 

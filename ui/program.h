@@ -14,6 +14,7 @@ class Sounds;
 class frm1;
 class frm2;
 class frmLoad;
+class RulesPage;
 
 /// One run of the program: owns the title, new-game and load screens and the game's screens, and switches
 /// between them. The constructor's references must outlive it.
@@ -33,6 +34,9 @@ public:
     void OpenBoard() override;
     void End() override;
 
+    /// Opens the rules beside the windows of the game.
+    void ShowRules();
+
 private:
     GameState& game_;
     const SavedGamesFolder& saves_;
@@ -41,6 +45,7 @@ private:
     OwnedWindow<frm1> title_;
     OwnedWindow<frm2> newGame_;
     OwnedWindow<frmLoad> load_;
+    OwnedWindow<RulesPage> rules_;
 };
 
 }  // namespace vorlund

@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <QToolTip>
 #include <QWindow>
 #include <cerrno>
@@ -62,7 +63,7 @@ TEST(Controls, TabOrderOfEveryWindow) {
         EXPECT_EQ(Tabs(), "lblPlay lblLoad lblExit");
         Press(Qt::Key_Down);
         Type("\n");
-        EXPECT_EQ(Tabs(), "flb1 lblGo(0) lblGo(1) lblGo(2)");
+        EXPECT_EQ(Tabs(), "flb1 lblGo(2)");  // nothing is selected
     }
     {
         Sitting newGame;
@@ -310,6 +311,31 @@ TEST(Controls, ADoubleClickLoadsOnTheRelease) {
     EXPECT_EQ(doubleClick(Qt::LeftButton, place), "Vorlund - Load Game");
     QTest::mouseRelease(view, Qt::LeftButton, {}, place);
     EXPECT_EQ(Desktop(), BoardTitle);
+}
+
+TEST(Controls, F1ShowsTheRulesBesideEveryWindow) {
+    Sitting sitting;
+    Press(Qt::Key_F1);
+    EXPECT_EQ(Desktop(), "Vorlund | Vorlund - Rules");
+    const auto& rules = static_cast<QTextBrowser&>(Control("RulesPage", "rules"));
+    EXPECT_TRUE(
+        rules.toPlainText().startsWith("The rules a player needs\nAim and start\nTwo to five players"));
+    Press(Qt::Key_End);
+    EXPECT_EQ(rules.verticalScrollBar()->value(), rules.verticalScrollBar()->maximum());
+    Type("\033");
+    sitting.Resume(ThreePlayers);
+    Type("b");
+    Press(Qt::Key_F1);
+    Type("\033");
+    sitting.Expect({NoTransaction, "\n", [] {
+                        Press(Qt::Key_F1);
+                        EXPECT_FALSE(Desktop().endsWith("Rules"));
+                    }});
+    Type("\n\033");
+    Press(Qt::Key_F1);
+    EXPECT_EQ(Desktop(), AnnasTurn + " | Vorlund - Rules");
+    sitting.Expect({LeaveQuestion, "y"});
+    EXPECT_TRUE(EndsProgram([] { Close("frm3"); }));
 }
 
 TEST(Controls, ClosingTheFirstScreensEndsTheProgram) {

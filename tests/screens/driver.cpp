@@ -71,7 +71,8 @@ Sitting::Sitting(std::unique_ptr<Random> chance, const QString& saves)
     : saves_(saves.isEmpty() ? folder_.filePath("saves") : saves),
       chance_(std::move(chance)),
       savesFolder_(saves_.toStdString()),
-      program_(game_, *chance_, savesFolder_, sounds_) {
+      program_(game_, *chance_, savesFolder_, sounds_),
+      helpKey_([this] { program_.ShowRules(); }) {
     qApp->installEventFilter(this);
     beeps = 0;
     program_.Start();

@@ -11,6 +11,7 @@
 
 #include "tests/rules/small_worlds.h"
 #include "ui/machine/sounds.h"
+#include "ui/parts/help_key.h"
 #include "ui/parts/input_filter.h"
 #include "ui/program.h"
 
@@ -93,6 +94,7 @@ private:
     SavedGamesFolder savesFolder_;
     SoundRecorder sounds_;
     Program program_;
+    HelpKey helpKey_;
     std::deque<Box> expected_;
 };
 

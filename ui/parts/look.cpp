@@ -39,6 +39,8 @@ QFont FontOf(Face face) {
     const QStringList serif{u"Times New Roman"_s, u"Liberation Serif"_s};
     const QStringList field{u"MS Sans Serif"_s, u"Liberation Sans"_s};
     switch (face) {
+        case Face::Value:
+            return MakeFont(sans, 11, true);
         case Face::Status:
             return MakeFont(sans, 12, true);
         case Face::Heading:
@@ -70,6 +72,7 @@ QColor ColourOf(Face face) {
         case Face::Field:
             return Qt::black;
         case Face::Caption:
+        case Face::Value:
         case Face::Count:
             break;
     }
@@ -121,6 +124,13 @@ QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom) {
     }
     picture.setDevicePixelRatio(ratio);
     return picture;
+}
+
+QPalette ToolTipColours() {
+    QPalette colours;
+    colours.setColor(QPalette::ToolTipBase, QColor(20, 28, 48));
+    colours.setColor(QPalette::ToolTipText, QColor(colour::Caption));
+    return colours;
 }
 
 QIcon ProgramIcon() {

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QFont>
 #include <QIcon>
+#include <QPalette>
 #include <QPixmap>
 #include <QString>
 #include <string_view>
@@ -11,7 +12,7 @@
 namespace vorlund {
 
 /// The text styles of the game.
-enum class Face { Caption, Status, Heading, Command, Field, Count };
+enum class Face { Caption, Value, Status, Heading, Command, Field, Count };
 
 namespace colour {
 inline constexpr QRgb Rest = qRgb(0, 0, 192);         ///< command at rest
@@ -45,5 +46,8 @@ QPixmap LoadPicture(const QString& name, qreal ratio, qreal zoom);
 
 /// The window icon, from the resources: the desktop knows one only where the program is installed.
 QIcon ProgramIcon();
+
+/// The colours of tooltips.
+QPalette ToolTipColours();
 
 }  // namespace vorlund
