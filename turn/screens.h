@@ -23,8 +23,8 @@ public:
 
     virtual void SetBoardTitle(const std::string& title) = 0;
 
-    /// Shows the game-over picture over the map.
-    virtual void ShowGameOver() = 0;
+    /// Shows the game-over picture over the map, with `verdict`, which says who has won.
+    virtual void ShowGameOver(const std::string& verdict) = 0;
 
     /// Closes every open command dialog without enabling the board's commands again.
     virtual void CloseDialogs() = 0;

@@ -23,13 +23,14 @@ std::string NowDeadText(int player) {
 
 void DeclareWinner(GameState& game, Screens& screens, int player, const Report* computerReport) {
     const std::string& name = game.PlayerAt(player).Name;
-    screens.ShowGameOver();
+    const std::string verdict = name + " wins";
+    screens.ShowGameOver(verdict);
     game.GameOver = true;
     if (computerReport != nullptr) {
         screens.RefreshMap();
         screens.ShowReport(*computerReport, player);
     }
-    screens.SetBoardTitle("Vorlund - " + name + " wins");
+    screens.SetBoardTitle("Vorlund - " + verdict);
     screens.Announce(PlayerAndName(game, player) +
                      (computerReport != nullptr ? ", wins the game!" : ", you win the game!"));
 }

@@ -131,8 +131,8 @@ void GameScreens::SetBoardTitle(const std::string& title) {
     board_->SetTitle(title);
 }
 
-void GameScreens::ShowGameOver() {
-    board_->ShowGameOver();
+void GameScreens::ShowGameOver(const std::string& verdict) {
+    board_->ShowGameOver(verdict);
 }
 
 void GameScreens::CloseDialogs() {

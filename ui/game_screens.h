@@ -53,7 +53,7 @@ public:
     void RefreshMap() override;
     void SetCommands(CommandSet available) override;
     void SetBoardTitle(const std::string& title) override;
-    void ShowGameOver() override;
+    void ShowGameOver(const std::string& verdict) override;
     void CloseDialogs() override;
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override;
     void CloseReport() override;

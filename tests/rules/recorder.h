@@ -25,7 +25,7 @@ public:
                                                                            : "no commands; ";
     }
     void SetBoardTitle(const std::string& title) override { Calls += "'" + title + "'; "; }
-    void ShowGameOver() override { Calls += "ShowGameOver; "; }
+    void ShowGameOver(const std::string& verdict) override { Calls += "ShowGameOver " + verdict + "; "; }
     void CloseDialogs() override { Calls += "CloseDialogs; "; }
     void ShowReport(const Report& report, std::optional<int> picturePlayer) override {
         ReportVisible = true;

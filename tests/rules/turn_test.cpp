@@ -44,7 +44,7 @@ const std::string Ended = "CloseReport; CloseDialogs; no commands; ";
 
 const std::string TurnBegins =
     "'Vorlund - #'s turn'; RefreshMap; ShowReport # Upkeep status for Player #, #.; ";
-const std::string Won = "ShowGameOver; 'Vorlund - # wins'; Announce Player #, #, you win the game!; ";
+const std::string Won = "ShowGameOver # wins; 'Vorlund - # wins'; Announce Player #, #, you win the game!; ";
 
 TEST(Turn, PassesToTheNextLivingPlayerWithCommandsAfterTheReport) {
     Play play(5,
@@ -64,7 +64,7 @@ TEST(Turn, PassesToTheNextLivingPlayerWithCommandsAfterTheReport) {
 TEST(Turn, AnnouncesTheLastPlayerAliveHumanOrComputer) {
     for (const std::string computer : {"0", "1"}) {
         Play play(3, "11 Ben 1/0 Anna IsDead 1 Cleo IsDead 1 Ben IsComputer " + computer, "");
-        play.Then("end", Ended + With("Ben 2 Ben", Won));
+        play.Then("end", Ended + With("Ben Ben 2 Ben", Won));
         play.Then("close", "");
     }
 }
@@ -82,7 +82,7 @@ TEST(Turn, CanBeEndedByAPlayerWhoseCollapseLeavesOneAlive) {
     play.Then("end", Ended + With("Ben 2 2 Ben", TurnBegins),
               "11 nobody 0/0; Ben DebtTurns 3 IsDead 1 Money -61");
     play.Then("close", "EndTurn; ");
-    play.Then("end", Ended + With("Anna 1 Anna", Won));
+    play.Then("end", Ended + With("Anna Anna 1 Anna", Won));
     play.Game.GameOver = false;  // a single living player without GameOver: no commands either
     play.Then("close", "");
 }
@@ -200,7 +200,7 @@ TEST(ComputerTurn, FollowsTheRules) {
         const std::string shown = "RefreshMap; ShowReport 2 The computer did the following:; ";
         play.Then("computer",
                   "CloseReport; 'Vorlund - Ben's turn'; " +
-                      (wins ? "ShowGameOver; " + shown +
+                      (wins ? "ShowGameOver Ben wins; " + shown +
                                   "'Vorlund - Ben wins'; Announce Player 2, Ben, wins the game!; "
                             : shown),
                   row.changes);

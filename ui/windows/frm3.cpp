@@ -82,8 +82,13 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
     setFocusPolicy(Qt::StrongFocus);
     AddMarkers();
     AddCommandBar();
+    AddText(u"help"_s, Face::Caption, QRect(668, 468, 70, 15), "F1: the rules")
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     imgGameOver_ = new PictureLabel(this, u"imgGameOver"_s, QRect(29, 32, 692, 381));
     imgGameOver_->hide();
+    verdict_ = AddText(u"verdict"_s, Face::Heading, QRect(80, 384, 590, 20));
+    verdict_->setAlignment(Qt::AlignCenter);
+    verdict_->hide();
     tmrFirst_.setSingleShot(true);
     tmrFirst_.setInterval(SelectionDelay);
     connect(&tmrFirst_, &QTimer::timeout, this, [this] {
@@ -187,10 +192,13 @@ void frm3::SetCommands(CommandSet available) {
     }
 }
 
-void frm3::ShowGameOver() {
+void frm3::ShowGameOver(std::string_view verdict) {
     imgGameOver_->Show(&gameOver_);
-    imgGameOver_->raise();
-    imgGameOver_->show();
+    verdict_->Show(verdict);
+    for (QWidget* widget : {static_cast<QWidget*>(imgGameOver_), static_cast<QWidget*>(verdict_)}) {
+        widget->raise();
+        widget->show();
+    }
 }
 
 void frm3::Run(Command command) {

@@ -38,7 +38,8 @@ public:
 
     void RefreshMap() override;
     void SetCommands(CommandSet available);
-    void ShowGameOver();
+    /// Lays the game-over picture, with the verdict on it, over the map.
+    void ShowGameOver(std::string_view verdict);
 
     void AddTerritoryField(Field& field) override;
 
@@ -74,6 +75,7 @@ private:
     std::array<Marker, NumTerritories> markers_{};
     std::array<CommandLabel*, NumCommands> commands_{};
     PictureLabel* imgGameOver_;
+    TextLabel* verdict_;
     QTimer tmrFirst_;
     TerritoryMap map_;
     OwnerMap land_;
