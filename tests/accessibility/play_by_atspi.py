@@ -158,9 +158,12 @@ def play(game):
 
 def load(game):
     game.at("Vorlund", "button Play Game|button Load Game|button Exit", "Load Game")
+    first = "Select a saved game first."
+    game.at("Vorlund - Load Game", "list Select a saved game from the list below:|list item walk.vrs|"
+            f"button Load Game (Enter): {first}|button Delete Game (Delete): {first}|button Cancel", "walk.vrs")
     due = ("list Select a saved game from the list below:|list item walk.vrs|"
            "button Load Game (Enter)|button Delete Game (Delete)|button Cancel")
-    game.at("Vorlund - Load Game", due, "walk.vrs", "Delete Game")
+    game.at("Vorlund - Load Game", due, "Delete Game")
     game.at("Confirm Delete", "button Yes (Alt+Y)|button No (Alt+N)", "No")
     game.wait_for("the load screen alone", lambda: len(game.windows()) == 1)
     game.at("Vorlund - Load Game", due, "Load Game")

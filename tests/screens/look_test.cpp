@@ -24,6 +24,19 @@ struct Letters {
     double Worst = 21;  ///< lowest contrast with the pixel behind, except at antialiased edges
 };
 
+// The darkest pixel as near as the outline of a letter must be.
+QRgb DarkestAround(const QImage& picture, QPoint middle) {
+    const QPoint reach = QPoint(3, 3) * picture.devicePixelRatio() * Zoom::OfApplication().Factor();
+    const QRect around = QRect(middle - reach, middle + reach).intersected(picture.rect());
+    QRgb darkest = qRgb(255, 255, 255);
+    for (int y = around.top(); y <= around.bottom(); ++y) {
+        for (int x = around.left(); x <= around.right(); ++x) {
+            darkest = qGray(picture.pixel(x, y)) < qGray(darkest) ? picture.pixel(x, y) : darkest;
+        }
+    }
+    return darkest;
+}
+
 Letters LettersOf(QWidget& widget, QRgb colour) {
     QWidget& window = *widget.window();
     const QRect place(widget.mapTo(&window, QPoint()), widget.size());
@@ -33,6 +46,7 @@ Letters LettersOf(QWidget& widget, QRgb colour) {
     command != nullptr ? command->setText({}) : widget.hide();
     const QImage without = window.grab(place).toImage();
     command != nullptr ? command->setText(text) : widget.show();
+    const bool outlined = command != nullptr && colour != colour::Rest;
     Letters letters;
     for (int i = 0; i < with.width() * with.height(); ++i) {
         const QPoint pixel(i % with.width(), i / with.width());
@@ -40,6 +54,12 @@ Letters LettersOf(QWidget& widget, QRgb colour) {
         if (with.pixel(pixel) != behind) {
             letters.Ink |= QRect(pixel, QSize(1, 1));
             letters.Exact += with.pixel(pixel) == colour ? 1 : 0;
+            if (outlined) {
+                if (with.pixel(pixel) == colour) {
+                    letters.Worst = std::min(letters.Worst, Contrast(colour, DarkestAround(with, pixel)));
+                }
+                continue;
+            }
             const bool fringe = 4 * Distance(with.pixel(pixel), behind) < Distance(colour, behind);
             letters.Worst = fringe ? letters.Worst : std::min(letters.Worst, Contrast(colour, behind));
         }

@@ -15,8 +15,7 @@ namespace {
 
 const QColor LightPlate(255, 251, 232);
 const QColor LightRim(190, 168, 112);
-const QColor DarkPlate(10, 14, 40);
-const QColor DisabledPlate(70, 76, 92);
+const QColor Outline(0, 0, 64);
 const QColor DisabledInk(150, 156, 170);
 constexpr qreal CornerRadius = 4;
 constexpr int MarkWidth = 16;  ///< the room for the ring of a radio button, left of its text
@@ -38,6 +37,12 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
 void CommandLabel::FitCaption() {
     // The plate is wider than the text's box: a caption that fits the plate keeps its full size.
     setFont(Fitted(FontOf(Face::Command), text().remove(u'&'), width() - Zoomed(PlateX)));
+}
+
+void CommandLabel::SetPlate(QSize size) {
+    QRect plate(QPoint(), size);
+    plate.moveCenter(Frame().center());
+    PlaceAt(plate);
 }
 
 void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
@@ -69,17 +74,16 @@ void CommandLabel::PaintPlate(QPainter& painter) const {
     const qreal zoom = Zoom::OfApplication().Factor();
     const QRectF plate = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     const qreal radius = CornerRadius * zoom;
-    if (!isEnabled()) {
-        painter.setPen(QPen(DisabledPlate, zoom));
-        painter.setBrush(QColor(18, 22, 34));
-    } else if (state_ == State::Rest) {
+    if (isEnabled() && state_ == State::Rest) {
         painter.setPen(QPen(LightRim, zoom));
         painter.setBrush(LightPlate);
-    } else {
-        painter.setPen(QPen(QColor(state_ == State::Hover ? colour::Hover : colour::Pressed), zoom));
-        painter.setBrush(DarkPlate);
+        painter.drawRoundedRect(plate, radius, radius);
+    } else if (isEnabled()) {
+        const qreal rim = 2 * zoom;
+        painter.setPen(QPen(QColor(colour::Hover), rim));
+        painter.setBrush(Qt::white);
+        painter.drawRoundedRect(plate.adjusted(rim / 2, rim / 2, -rim / 2, -rim / 2), radius, radius);
     }
-    painter.drawRoundedRect(plate, radius, radius);
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(QColor(colour::Focus), 1.3 * zoom));
@@ -101,6 +105,20 @@ void CommandLabel::PaintMark(QPainter& painter, const QColor& ink) const {
     }
 }
 
+void CommandLabel::PaintText(QPainter& painter, const QRect& box, const QColor& ink) const {
+    constexpr int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip;
+    if (isEnabled() && state_ != State::Rest) {
+        const int wide = Zoomed(1);
+        painter.setPen(Outline);
+        for (const QPoint& side : {QPoint(-1, -1), QPoint(0, -1), QPoint(1, -1), QPoint(-1, 0), QPoint(1, 0),
+                                   QPoint(-1, 1), QPoint(0, 1), QPoint(1, 1)}) {
+            painter.drawText(box.translated(side * wide), flags, text());
+        }
+    }
+    painter.setPen(ink);
+    painter.drawText(box, flags, text());
+}
+
 void CommandLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -115,8 +133,8 @@ void CommandLabel::paintEvent(QPaintEvent*) {
         box.setLeft(box.left() + Zoomed(MarkWidth));
     }
     painter.setFont(font());
-    painter.setPen(ink);
-    painter.drawText(box, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, text());
+    box.translate(0, -Zoomed(1));  // room for the outlines of descenders
+    PaintText(painter, box, ink);
 }
 
 void CommandLabel::enterEvent(QEnterEvent* event) {

@@ -8,8 +8,9 @@
 namespace vorlund {
 
 /// A clickable text. It is dark blue at rest, light blue under the pointer, and pale blue from a mouse press
-/// until the pointer moves. The plate behind it is light at rest and dark otherwise, which keeps the contrast
-/// of the text above 4.5:1 on any background. A disabled command is grey and does not react to the mouse.
+/// until the pointer moves. The plate behind it is light, and brighter under the pointer, where a dark
+/// outline keeps the contrast of the light text above 4.5:1. A disabled command is grey, has no plate and
+/// does not react to the mouse.
 class CommandLabel : public Button {
     Q_OBJECT
 
@@ -21,6 +22,9 @@ public:
     /// `box` is the rectangle of the text, in pixels of the layout. The letter after "&" in `caption` is
     /// underlined; no accelerator is made for it.
     CommandLabel(QWidget* parent, const QString& objectName, const QString& caption, const QRect& box);
+
+    /// Makes the plate `size` large, in pixels of the layout, with the text in its middle.
+    void SetPlate(QSize size);
 
     /// Enables or disables the command. While it is disabled its tooltip shows `whyNot`, otherwise its key.
     void SetAvailable(bool available, const QString& whyNot);
@@ -54,6 +58,7 @@ private:
     QString KeyTip() const;
     void PaintPlate(QPainter& painter) const;
     void PaintMark(QPainter& painter, const QColor& ink) const;
+    void PaintText(QPainter& painter, const QRect& box, const QColor& ink) const;
 
     State state_ = State::Rest;
     QString key_;

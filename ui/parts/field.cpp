@@ -9,7 +9,8 @@ Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int
     setObjectName(objectName);
     PlaceAt(frame);
     setMaxLength(maxLength);
-    setTextMargins(-1, 0, -1, 0);
+    setFrame(false);  // a style draws a ring of its own in it, beside the window's
+    setTextMargins(1, 0, 1, 0);
     QPalette colours = palette();
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         colours.setColor(group, QPalette::Base,

@@ -117,7 +117,11 @@ void Screen::Present() {
         place.moveCenter(screen()->availableGeometry().center());
         move(place.topLeft());
     }
-    ++timesPresented_;
+    if (++timesPresented_ == 1) {
+        TextLabel::FitAlike(captions_);
+        // After each of them has been fitted by itself
+        connect(&Zoom::OfApplication(), &Zoom::Changed, this, [this] { TextLabel::FitAlike(captions_); });
+    }
     RestCommands();
     show();
     raise();
@@ -137,6 +141,7 @@ TextLabel* Screen::AddText(const QString& name, Face face, const QRect& frame, s
 Field* Screen::AddField(TextLabel* caption, const QString& name, QPoint position, int maxLength, int width) {
     auto* field = new Field(this, name, QRect(position, QSize(width, FieldHeight)), maxLength);
     caption->setBuddy(field);
+    ShareSize(caption);
     return field;
 }
 

@@ -63,6 +63,9 @@ protected:
     /// Adds a field; `caption` is its accessible name.
     Field* AddField(TextLabel* caption, const QString& name, QPoint position, int maxLength, int width = 33);
 
+    /// Has `caption` written in one size with all captions of fields.
+    void ShareSize(TextLabel* caption) { captions_.push_back(caption); }
+
     CommandLabel* AddCommand(const QString& name, const QString& caption, const QRect& box);
 
     /// From now on, hovering over a command returns the others to their colour at rest.
@@ -92,6 +95,7 @@ private:
     Picture background_;
     QAccessible::Role role_;
     std::vector<CommandLabel*> commands_;
+    std::vector<TextLabel*> captions_;
     bool hoverOneAtATime_ = false;
     bool outright_ = false;
     int timesPresented_ = 0;

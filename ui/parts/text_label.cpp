@@ -3,7 +3,9 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace vorlund {
 namespace {
@@ -39,7 +41,24 @@ void TextLabel::Refit(const QRect& frame) {
 }
 
 void TextLabel::ZoomChanged() {
-    setFont(wordWrap() ? FontOf(face_) : Fitted(FontOf(face_), text(), width()));
+    setFont(wordWrap() ? FontOf(face_) : Fitted(FontOf(face_), text(), contentsRect().width()));
+}
+
+void TextLabel::FitAlike(const std::vector<TextLabel*>& labels) {
+    int stretch = QFont::Unstretched;
+    int pixels = std::numeric_limits<int>::max();
+    for (TextLabel* label : labels) {
+        label->ZoomChanged();
+        const QFont font = label->font();
+        stretch = std::min(stretch, font.stretch() == QFont::AnyStretch ? stretch : font.stretch());
+        pixels = std::min(pixels, font.pixelSize());
+    }
+    for (TextLabel* label : labels) {
+        QFont font = label->font();
+        font.setStretch(stretch);
+        font.setPixelSize(pixels);
+        label->setFont(font);
+    }
 }
 
 CountLabel::CountLabel(QWidget* parent, const QString& objectName, const QRect& frame)

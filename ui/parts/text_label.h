@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QString>
 #include <string_view>
+#include <vector>
 
 #include "ui/parts/look.h"
 #include "ui/parts/placed.h"
@@ -21,6 +22,9 @@ public:
 
     /// Moves the label to `frame`, in pixels of the layout, and fits its font to the new width.
     void Refit(const QRect& frame);
+
+    /// Writes all of these in the size of the one that had to be written smallest.
+    static void FitAlike(const std::vector<TextLabel*>& labels);
 
 protected:
     void ZoomChanged() override;

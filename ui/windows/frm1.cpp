@@ -18,8 +18,9 @@ constexpr std::array<std::string_view, 3> Credits{"Vorlund, a world war.", "For 
                                                   "Made by the Vorlund team."};
 static_assert(Credits[0].size() == 21 && Credits[1].size() == 23 && Credits[2].size() == 25);
 
-constexpr int MusicDelay = 100;     ///< milliseconds of each of the two timers before the music
-constexpr int TypingInterval = 40;  ///< milliseconds per character
+constexpr QSize PlateSize(107, 22);  ///< of each of the three commands
+constexpr int MusicDelay = 100;      ///< milliseconds of each of the two timers before the music
+constexpr int TypingInterval = 40;   ///< milliseconds per character
 
 }  // namespace
 
@@ -49,6 +50,7 @@ void frm1::AddCommands() {
                             void (TitleNavigation::*run)()) {
         CommandLabel* command = AddCommand(name, caption, box);
         command->setFocusPolicy(Qt::TabFocus);
+        command->SetPlate(PlateSize);
         connect(command, &CommandLabel::clicked, this, [this, run] {
             sounds_.PlayWave(Wave::Beep);
             (navigation_.*run)();

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 frmBuy::frmBuy(DialogHost& host, GameState& game)
     : TradeDialog(host,
-                  {u"frmBuy"_s, u"Vorlund - Buy"_s, QSize(391, 138), 136, 176, 292,
+                  {u"frmBuy"_s, u"Vorlund - Buy"_s, QSize(391, 138), 128, 168, 298,
                    "Territory # with Factory:", BuyingPrices, u"Buy"_s},
                   MoneyLine(game)),
       game_(game) {}

@@ -7,6 +7,7 @@
 #include "savegame/game_name.h"
 #include "ui/parts/keys.h"
 #include "ui/parts/message_box.h"
+#include "ui/parts/scroll_bars.h"
 #include "ui/windows/title_navigation.h"
 
 namespace vorlund {
@@ -24,6 +25,11 @@ frmLoad::frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation
     flb1_->setObjectName(u"flb1"_s);
     flb1_->PlaceAt(QRect(16, 40, 180, 204));
     flb1_->setUniformItemSizes(true);
+    QPalette colours = flb1_->palette();
+    colours.setColor(QPalette::Base, Qt::white);
+    colours.setColor(QPalette::Text, Qt::black);
+    flb1_->setPalette(colours);
+    DressScrollBar(*flb1_);
     flb1_->viewport()->installEventFilter(this);
     flb1_->setAccessibleName(lbl2->text());
     const std::array captions{u"Load Game"_s, u"Delete Game"_s, u"Cancel"_s};
@@ -34,7 +40,13 @@ frmLoad::frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation
         lblGo->setFocusPolicy(Qt::TabFocus);
         lblGo->SetKey(keys[static_cast<std::size_t>(i)]);
         connect(lblGo, &CommandLabel::clicked, this, [this, i] { CallLoad(i); });
+        lblGo_[static_cast<std::size_t>(i)] = lblGo;
     }
+    empty_ = AddText(u"empty"_s, Face::Caption, QRect(24, 46, 164, 20), "There are no saved games.");
+    QPalette dark = empty_->palette();
+    dark.setColor(QPalette::WindowText, Qt::black);
+    empty_->setPalette(dark);
+    connect(flb1_, &QListWidget::itemSelectionChanged, this, &frmLoad::OfferCommands);
     HoverOneAtATime();
     FillList();
     flb1_->setFocus();
@@ -51,10 +63,18 @@ void frmLoad::FillList() {
     // An explicit invalid index: otherwise the list makes its first row current, but not selected, when it
     // gets the focus, and the first arrow key would skip that row.
     flb1_->setCurrentIndex({});
+    empty_->setVisible(list.Files.empty() && !list.Error);
+    OfferCommands();
     if (list.Error) {
         // Queued: the window is not shown yet
         QMetaObject::invokeMethod(
             this, [this, why = *list.Error] { Exclaim(this, why); }, Qt::QueuedConnection);
+    }
+}
+
+void frmLoad::OfferCommands() {
+    for (CommandLabel* command : {lblGo_[0], lblGo_[1]}) {
+        command->SetAvailable(Selected().has_value(), u"Select a saved game first."_s);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <array>
 #include <optional>
 #include <string>
 
@@ -32,12 +33,17 @@ private:
     void Load();
     void Delete();
     void FillList();
+
+    /// Offers what can be done with the selected game, if one is.
+    void OfferCommands();
     std::optional<std::string> Selected() const;
 
     GameState& game_;
     const SavedGamesFolder& saves_;
     TitleNavigation& navigation_;
     Placed<QListWidget>* flb1_;
+    TextLabel* empty_;
+    std::array<CommandLabel*, 3> lblGo_{};
     bool DoubleClicked_ = false;
 };
 

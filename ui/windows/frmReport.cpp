@@ -7,6 +7,7 @@
 #include <QWindow>
 
 #include "ui/parts/keys.h"
+#include "ui/parts/scroll_bars.h"
 #include "ui/windows/game_navigation.h"
 
 namespace vorlund {
@@ -27,11 +28,11 @@ frmReport::frmReport(GameNavigation& navigation)
       navigation_(navigation) {
     SetRole(QAccessible::AlertMessage);
     lbl1_ = AddText(u"lbl1"_s, Face::Heading, HeadlineFrame);
-    lbl1_->setAlignment(Qt::AlignCenter);
     imgC_ = new PictureLabel(this, u"imgC"_s, PictureFrame);
     scroll_ = new Placed<QScrollArea>(this);
     scroll_->PlaceAt(BodyFrame);
     scroll_->setFrameShape(QFrame::NoFrame);
+    DressScrollBar(*scroll_);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->viewport()->setAutoFillBackground(false);
@@ -66,18 +67,24 @@ void frmReport::ShowReport(const Report& report, const Picture* picture, QWidget
 }
 
 void frmReport::LayOut() {
+    // On one line with the picture, and right behind it where there is one
+    const bool pictured = imgC_->isVisibleTo(this);
+    const int left = pictured ? PictureFrame.right() + PictureGap - HeadlineFrame.left() : 0;
+    const int below =
+        HeadlineFrame.bottom() - PictureFrame.bottom() - (PictureFrame.top() - HeadlineFrame.top());
+    lbl1_->setContentsMargins(Zoomed(left), 0, 0, Zoomed(below));
+    lbl1_->setAlignment((pictured ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
     lbl1_->Refit(HeadlineFrame);
-    // A centred headline that would overlap the picture is centred to the right of it instead.
-    const int textWidth = QFontMetrics(lbl1_->font()).horizontalAdvance(lbl1_->text());
-    const int room = PictureFrame.right() + PictureGap;
-    const bool runsUnder = Zoomed(HeadlineFrame).center().x() - textWidth / 2 < Zoomed(room);
-    if (imgC_->isVisibleTo(this) && runsUnder) {
-        lbl1_->Refit(HeadlineFrame.adjusted(room - HeadlineFrame.left(), 0, 0, 0));
-    }
+    // The body's last line ends with a line break, below which nothing needs room.
     const QSize body = scroll_->size();
-    const bool scrolls = lbl2_->heightForWidth(body.width()) > body.height();
+    const QFontMetrics metrics(lbl2_->font());
+    const QString text = lbl2_->text().trimmed();
+    const auto height = [&](int width) {
+        return metrics.boundingRect(0, 0, width, 0, Qt::TextWordWrap, text).height();
+    };
+    const bool scrolls = height(body.width()) > body.height();
     const int width = body.width() - (scrolls ? scroll_->verticalScrollBar()->sizeHint().width() : 0);
-    lbl2_->resize(width, scrolls ? lbl2_->heightForWidth(width) : body.height());
+    lbl2_->resize(width, scrolls ? height(width) : body.height());
 }
 
 bool frmReport::HandleCloseRequest() {

@@ -40,8 +40,9 @@ frmStatus::frmStatus(DialogHost& host, const GameState& game, const Picture& mar
     int y = 14;
     for (const Row& row : rows) {
         const int height = 8 + 14 * row.Lines;
-        AddText(row.Control + u"Caption"_s, Face::Caption, QRect(44, y, 122, LineHeight), row.Caption);
-        AddText(row.Control, Face::Caption, QRect(172, y, 136, height), row.Value);
+        ShareSize(
+            AddText(row.Control + u"Caption"_s, Face::Caption, QRect(44, y, 122, LineHeight), row.Caption));
+        AddText(row.Control, Face::Value, QRect(172, y, 136, height), row.Value);
         y += row.Lines * LineHeight - (row.Lines - 1) * 8;
     }
     auto* img1 = new PictureLabel(this, u"img1"_s, QRect(22, 20, 10, 10));

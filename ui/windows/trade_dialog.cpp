@@ -26,7 +26,7 @@ TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_vie
         return AddField(label, field, QPoint(layout.QuantityFieldX, y), 3);
     };
     TextLabel* lbl3 =
-        AddText(u"lbl3"_s, Face::Caption, QRect(10, TerritoryY, layout.TerritoryFieldX - 14, FieldHeight),
+        AddText(u"lbl3"_s, Face::Caption, QRect(8, TerritoryY, layout.TerritoryFieldX - 12, FieldHeight),
                 layout.TerritoryCaption);
     txtC1_ = AddField(lbl3, u"txtC1"_s, QPoint(layout.TerritoryFieldX, TerritoryY), 2);
     txtTroops_ =
