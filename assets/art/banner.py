@@ -108,7 +108,7 @@ def laurel():
 def title():
     letters, width = lettering.line('GAME OVER')
     size = .63
-    x0, y0 = 346 - width * size / 2, 262
+    x0, y0 = 346 - width * size / 2, 246
     out = ['<linearGradient id="ivory" x2="0" y2="1"><stop offset="0" stop-color="#fffaf0"/>'
            '<stop offset="1" stop-color="#e2cf9a"/></linearGradient>']
     for x, d in letters:
@@ -128,7 +128,7 @@ def flourish(y):
 
 
 def main():
-    picture('gameover', WIDTH, HEIGHT, plate() + rays() + laurel() + globe() + title() + flourish(350.5))
+    picture('gameover', WIDTH, HEIGHT, plate() + rays() + laurel() + globe() + title() + flourish(324.5))
 
 
 if __name__ == '__main__':

@@ -55,6 +55,8 @@ QFont FontOf(Face face) {
             return MakeFont(field, 11, true);
         case Face::Count:
             return MakeFont(sans, 9);
+        case Face::Verdict:
+            return MakeFont(serif, 22, true);
         case Face::Caption:
             break;
     }
@@ -71,6 +73,8 @@ QColor ColourOf(Face face) {
             return colour::Rest;
         case Face::Field:
             return Qt::black;
+        case Face::Verdict:
+            return colour::Verdict;
         case Face::Caption:
         case Face::Value:
         case Face::Count:

@@ -12,7 +12,7 @@
 namespace vorlund {
 
 /// The text styles of the game.
-enum class Face { Caption, Value, Status, Heading, Command, Field, Count };
+enum class Face { Caption, Value, Status, Heading, Command, Field, Count, Verdict };
 
 namespace colour {
 inline constexpr QRgb Rest = qRgb(0, 0, 192);         ///< command at rest
@@ -22,6 +22,7 @@ inline constexpr QRgb Focus = qRgb(255, 176, 32);     ///< ring round the focus 
 inline constexpr QRgb Caption = qRgb(255, 255, 255);
 inline constexpr QRgb Status = qRgb(0, 128, 128);
 inline constexpr QRgb Heading = qRgb(0, 255, 0);
+inline constexpr QRgb Verdict = qRgb(226, 207, 154);  ///< on the game-over picture
 inline constexpr QRgb Window = qRgb(0, 0, 0);
 }  // namespace colour
 

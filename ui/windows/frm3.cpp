@@ -86,7 +86,7 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
         ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     imgGameOver_ = new PictureLabel(this, u"imgGameOver"_s, QRect(29, 32, 692, 381));
     imgGameOver_->hide();
-    verdict_ = AddText(u"verdict"_s, Face::Heading, QRect(80, 384, 590, 20));
+    verdict_ = AddText(u"verdict"_s, Face::Verdict, QRect(80, 367, 590, 32));
     verdict_->setAlignment(Qt::AlignCenter);
     verdict_->hide();
     tmrFirst_.setSingleShot(true);
