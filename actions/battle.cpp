@@ -101,8 +101,12 @@ WhyNot WhyNoAttack(const GameState& game) {
     return left == 1 || left == 2 ? std::nullopt : WhyNot("You have no attack left this turn.");
 }
 
+int AttacksToMake(const GameState& game) {
+    return WhyNoAttack(game) ? 0 : game.Current().AttacksLeft;
+}
+
 std::string AttacksLeftText(const GameState& game) {
-    const int left = WhyNoAttack(game) ? 0 : game.Current().AttacksLeft;
+    const int left = AttacksToMake(game);
     return "You have " + std::to_string(left) + (left == 1 ? " attack" : " attacks") + " left this turn.";
 }
 

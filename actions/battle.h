@@ -51,6 +51,9 @@ bool Fight(GameState& game, Random& random, Battle& battle);
 /// Why the dialog's Attack command is not available: the current player has no attack left.
 WhyNot WhyNoAttack(const GameState& game);
 
+/// How many attacks the current player can still make this turn.
+int AttacksToMake(const GameState& game);
+
 /// "You have 2 attacks left this turn." for the current player.
 std::string AttacksLeftText(const GameState& game);
 

@@ -22,8 +22,12 @@ WhyNot WhyNoMove(const GameState& game) {
     return left == 1 || left == 2 ? std::nullopt : WhyNot("You have no move left this turn.");
 }
 
+int MovesToMake(const GameState& game) {
+    return WhyNoMove(game) ? 0 : game.Current().MovesLeft;
+}
+
 std::string MovesLeftText(const GameState& game) {
-    const int left = WhyNoMove(game) ? 0 : game.Current().MovesLeft;
+    const int left = MovesToMake(game);
     return "You have " + std::to_string(left) + (left == 1 ? " move" : " moves") + " left this turn.";
 }
 

@@ -20,6 +20,9 @@ struct Moved {
 /// Why the dialog's Move command is not available: the current player has no move left.
 WhyNot WhyNoMove(const GameState& game);
 
+/// How many moves the current player can still make this turn.
+int MovesToMake(const GameState& game);
+
 /// The moves that the current player has left: "You have 2 moves left this turn.".
 std::string MovesLeftText(const GameState& game);
 

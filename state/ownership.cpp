@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "state/ownership.h"
 
+#include <algorithm>
+
 #include "state/int16.h"
 
 namespace vorlund {
+
+int CountOwned(const GameState& game, int player) {
+    const auto& owns = game.PlayerAt(player).Owns;
+    return static_cast<int>(std::count(owns.begin(), owns.end(), true));
+}
 
 void Claim(GameState& game, int t, int player) {
     Territory& territory = game.TerritoryAt(t);

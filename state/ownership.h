@@ -8,6 +8,9 @@ namespace vorlund {
 // Ownership is recorded three times: in `Occupied` and `Owner` of the territory and in `Owns` of the player.
 // Only these functions change it, so that the three agree.
 
+/// How many territories player index `player` owns.
+int CountOwned(const GameState& game, int player);
+
 /// Gives territory index `territory`, which nobody or `player` owns, to player index `player`. Units and
 /// buildings do not change.
 void Claim(GameState& game, int territory, int player);

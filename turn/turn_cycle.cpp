@@ -27,6 +27,10 @@ std::string TurnTitle(const GameState& game) {
     return "Vorlund - " + game.Current().Name + "'s turn";
 }
 
+bool HasTurn(const GameState& game, int player) {
+    return player == game.CurrentPlayer && !game.GameOver && game.DeadPlayers < game.NumPlayers;
+}
+
 std::int16_t NextAlive(const GameState& game, int player) {
     int next = player;
     do {

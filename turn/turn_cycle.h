@@ -17,6 +17,10 @@ inline constexpr std::int16_t AttacksPerTurn = 2;
 /// The board's title during the current player's turn: "Vorlund - Anna's turn".
 std::string TurnTitle(const GameState& game);
 
+/// True when it is the turn of player index `player`, and the game has not ended. One who has just died still
+/// has the turn to end.
+bool HasTurn(const GameState& game, int player);
+
 /// The next living player in the order of play after player index `player`; `player` when nobody else is
 /// alive.
 std::int16_t NextAlive(const GameState& game, int player);

@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "turn/victory.h"
 
-#include <algorithm>
-
+#include "state/ownership.h"
 #include "state/player_words.h"
 
 namespace vorlund {
 
 bool CheckDead(GameState& game, int player) {
-    Player& candidate = game.PlayerAt(player);
-    if (std::find(candidate.Owns.begin(), candidate.Owns.end(), true) != candidate.Owns.end()) {
+    if (CountOwned(game, player) > 0) {
         return false;
     }
-    candidate.IsDead = true;
+    game.PlayerAt(player).IsDead = true;
     ++game.DeadPlayers;
     return true;
+}
+
+bool HasWon(const GameState& game, int player) {
+    return game.GameOver && !game.PlayerAt(player).IsDead;
 }
 
 std::string NowDeadText(int player) {

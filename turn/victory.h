@@ -12,6 +12,9 @@ namespace vorlund {
 /// matter. True when it did.
 bool CheckDead(GameState& game, int player);
 
+/// True when the game has ended with player index `player` as winner.
+bool HasWon(const GameState& game, int player);
+
 /// The report's line on a player whose last territory has been captured: "Player 3 is now dead.".
 std::string NowDeadText(int player);
 
