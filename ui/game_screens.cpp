@@ -33,6 +33,7 @@ GameScreens::~GameScreens() = default;
 void GameScreens::OpenBoard() {
     report_ = std::make_unique<frmReport>(*this);
     board_ = std::make_unique<frm3>(game_, *this);
+    lastReported_ = game_;
     board_->Open();
 }
 
@@ -48,7 +49,7 @@ void GameScreens::CloseEverything() {
 void GameScreens::SelectTerritories() {
     selection_.Present([this] {
         auto selection = std::make_unique<frmSelect>(*board_, game_, random_, *this);
-        selection->PlaceOver(*board_, frm3::LowerEdgeOfDialogs);
+        selection->PlaceBelow(*board_);
         return selection;
     });
 }
@@ -66,7 +67,7 @@ void GameScreens::RunCommand(Command command) {
     SetCommands(CommandSet::None());
     dialogs_[static_cast<std::size_t>(command)].Present([this, command] {
         auto dialog = MakeDialog(command);
-        dialog->PlaceOver(*board_, frm3::LowerEdgeOfDialogs);
+        dialog->PlaceBelow(*board_);
         return dialog;
     });
 }
@@ -96,6 +97,7 @@ std::unique_ptr<CommandDialog> GameScreens::MakeDialog(Command command) {
 bool GameScreens::ReportClosed() {
     const bool stays = turn_.ReportClosed();
     if (!stays) {
+        board_->ShowChanges({});
         board_->activateWindow();
     }
     return stays;
@@ -128,7 +130,7 @@ void GameScreens::SetCommands(CommandSet available) {
 }
 
 void GameScreens::SetBoardTitle(const std::string& title) {
-    board_->SetTitle(title);
+    board_->SetBoardTitle(title);
 }
 
 void GameScreens::ShowGameOver(const std::string& verdict) {
@@ -151,12 +153,15 @@ void GameScreens::ShowReport(const Report& report, std::optional<int> picturePla
 
 void GameScreens::PresentReport(const Report& report, const Picture* picture, QWidget* owner) {
     if (!report_->isVisible()) {
-        report_->PlaceOver(*board_, frm3::LowerEdgeOfReports);
+        report_->PlaceBelow(*board_);
     }
+    board_->ShowChanges(ChangesBetween(lastReported_, game_));
+    lastReported_ = game_;
     report_->ShowReport(report, picture, owner);
 }
 
 void GameScreens::CloseReport() {
+    board_->ShowChanges({});
     report_->hide();
 }
 

@@ -69,6 +69,7 @@ private:
     Sounds& sounds_;
     std::function<void()> end_;
     TurnCycle turn_;
+    GameState lastReported_;  ///< the game when the latest report was shown, at first when the board opened
     // Declared first of the windows: the others are its child windows and must be destroyed before it.
     std::unique_ptr<frm3> board_;
     std::unique_ptr<frmReport> report_;

@@ -5,6 +5,7 @@
 
 #include "tests/screens/colours.h"
 #include "tests/screens/driver.h"
+#include "ui/windows/roster.h"
 
 // The painted pixels of every screen: contrast, overlaps and clipping, with the font family, device pixel
 // ratio and zoom that the environment sets.
@@ -261,6 +262,29 @@ TEST(Look, CountsAreLegibleAndDoNotOverlap) {
         for (std::size_t b = 0; b < a; ++b) {
             EXPECT_FALSE(plates[a].intersects(plates[b])) << "the counts of " << a + 1 << " and " << b + 1;
         }
+    }
+}
+
+TEST(Look, TheRosterIsWrittenWholeAndLegible) {
+    GameState game = FullBoard();  // everybody's name is as wide as can be
+    game.PlayerAt(0).Oil = 32767;
+    for (int p = 2; p < game.NumPlayers; ++p) {
+        game.PlayerAt(p).IsComputer = true;
+    }
+    Sitting sitting;
+    sitting.Resume(game);
+    const Zoomer zoomer;
+    const auto cells = Window("frm3").findChildren<RosterCell*>();
+    EXPECT_EQ(cells.size(), 10);
+    for (RosterCell* cell : cells) {
+        const QImage seen = cell->grab().toImage();
+        EXPECT_TRUE(cell->isVisible());
+        EXPECT_FALSE(cell->text().contains(u'\u2026')) << cell->text().toStdString();
+        EXPECT_LE(cell->fontMetrics().height(), cell->height());
+        // In the row of pixels between the letters' feet and the plate's edge lies only the ground.
+        const QRgb ground = seen.pixel(seen.width() / 2, seen.height() * 14 / 16);
+        EXPECT_GE(Contrast(cell->palette().color(QPalette::WindowText).rgb(), ground), 4.5)
+            << cell->objectName().toStdString();
     }
 }
 

@@ -92,7 +92,7 @@ TEST(OnX, ADoubleClickOnBuyDoesNotEndTheTurn) {
               "Vorlund - Ben's turn [] | Vorlund - Upkeep");
 }
 
-TEST(OnX, EachReportIsPlacedOverTheBoard) {
+TEST(OnX, EachReportIsPlacedBelowTheBoard) {
     Sitting sitting;
     sitting.Resume(ThreePlayers);
     FrontWindow();
@@ -100,10 +100,10 @@ TEST(OnX, EachReportIsPlacedOverTheBoard) {
     for (int report = 0; report < 3; ++report) {
         Type("b7\t1\n");
         QTest::qWait(300);
-        const QRect board = Window("frm3").geometry();
-        const QRect place = Window("frmReport").geometry();
+        const QRect board = Window("frm3").frameGeometry();
+        const QRect place = Window("frmReport").frameGeometry();
         EXPECT_NEAR(place.center().x(), board.center().x(), 4);
-        EXPECT_NEAR(place.bottom(), board.top() + 428, 4);
+        EXPECT_NEAR(place.top(), board.bottom() + 1, 4);
         Type("\n");
     }
 }

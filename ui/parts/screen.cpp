@@ -8,7 +8,8 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
-#include <algorithm>
+
+#include "ui/parts/placement.h"
 
 namespace vorlund {
 
@@ -31,17 +32,8 @@ Qt::WindowFlags WithFrame(Qt::WindowFlags flags) {
     return dialog ? flags : flags | Qt::WindowMinimizeButtonHint;
 }
 
-/// The top left corner that keeps `frame` inside the desktop's work area. A frame larger than that is aligned
-/// with the area's top left corner, which keeps its title bar reachable.
-QPoint OntoDesktop(const QScreen* screen, QRect frame) {
-    if (screen != nullptr) {
-        const QRect room = screen->availableGeometry();
-        frame.moveLeft(
-            std::clamp(frame.left(), room.left(), std::max(room.left(), room.right() - frame.width())));
-        frame.moveTop(
-            std::clamp(frame.top(), room.top(), std::max(room.top(), room.bottom() - frame.height())));
-    }
-    return frame.topLeft();
+QRect WorkArea(const QWidget& window) {
+    return window.screen() != nullptr ? window.screen()->availableGeometry() : QRect();
 }
 
 }  // namespace
@@ -89,11 +81,13 @@ void Screen::ZoomByKeys() {
         FollowZoom();
         frame.setSize(size() + border);
         frame.moveCenter(middle);
-        move(OntoDesktop(screen(), frame));
-        if (!placedOver_.isNull()) {
-            // Queued, because the window below may handle this change of the zoom later
-            QTimer::singleShot(0, this, [this] { PlaceOver(*placedOver_, lowerEdge_); });
-        }
+        move(IntoRoom(frame, WorkArea(*this)));
+        // Queued, because the other window may handle this change of the zoom later
+        QTimer::singleShot(0, this, [this] {
+            if (!placedBelow_.isNull()) {
+                PlaceBelow(*placedBelow_);
+            }
+        });
     });
     const auto addShortcut = [this](const QKeySequence& keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
@@ -216,16 +210,16 @@ void Screen::PaintFocusRing(QPainter& painter) const {
                             3 * zoom, 3 * zoom);
 }
 
-void Screen::PlaceOver(const QWidget& owner, int lowerEdge) {
-    placedOver_ = &owner;
-    lowerEdge_ = lowerEdge;
-    const QRect under = owner.geometry();
-    QRect place(QPoint(0, 0), size());
-    place.moveCenter(under.center());
-    place.moveBottom(under.top() + Zoomed(lowerEdge));
-    // move() positions the frame. This window's is not known yet; assume a title bar as high as the owner's.
-    place.translate(0, owner.frameGeometry().top() - under.top());
-    move(OntoDesktop(owner.screen(), place));
+void Screen::PlaceBelow(const QWidget& owner) {
+    placedBelow_ = &owner;
+    // This window's frame is not known before it is shown; assume one like the owner's.
+    const QSize frame = owner.frameGeometry().size() - owner.size();
+    move(vorlund::PlaceBelow(owner.frameGeometry(), size() + frame, WorkArea(owner)));
+}
+
+void Screen::PlaceAbove(int height) {
+    constexpr int titleBar = 36;  // pixels; not known either
+    move(vorlund::PlaceAbove(Zoomed(height) + titleBar, size() + QSize(0, titleBar), WorkArea(*this)));
 }
 
 }  // namespace vorlund

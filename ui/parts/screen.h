@@ -32,9 +32,13 @@ public:
     /// Closes the window without calling HandleCloseRequest.
     void CloseOutright();
 
-    /// Centres the window horizontally on `owner`, with its lower edge `lowerEdge` pixels of the layout below
-    /// the owner's upper edge, moved as needed to lie within the work area. Repeated when the zoom changes.
-    void PlaceOver(const QWidget& owner, int lowerEdge);
+    /// Centres the window horizontally on `owner` and puts it right below, or as much higher as it takes to
+    /// lie within the work area. Repeated when the zoom changes.
+    void PlaceBelow(const QWidget& owner);
+
+    /// Centres the window in the work area, or puts it as much higher as it takes to leave room below for a
+    /// window `height` pixels of the layout high.
+    void PlaceAbove(int height);
 
     bool ClosesOutright() const { return outright_; }
 
@@ -83,6 +87,10 @@ protected:
     void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
+    // A window does not show that it has the focus itself; the toolkit would repaint it.
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
+
 private:
     void FollowZoom();
     void ZoomByKeys();
@@ -90,8 +98,7 @@ private:
     void RestCommands(const CommandLabel* except = nullptr);
 
     QSize size_;  ///< in pixels of the layout
-    QPointer<const QWidget> placedOver_;
-    int lowerEdge_ = 0;
+    QPointer<const QWidget> placedBelow_;
     Picture background_;
     QAccessible::Role role_;
     std::vector<CommandLabel*> commands_;

@@ -24,6 +24,7 @@ namespace {
 
 constexpr int SelectionDelay = 20;  ///< milliseconds
 constexpr int CountWidth = 56;
+constexpr int TallestBelow = 277;  ///< pixels; of the reports and of the dialogs with territory fields
 
 struct CommandPlace {
     QStringView Name;
@@ -78,6 +79,7 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
       imgExtraSet_{Picture(u"extra0"_s, u"Defense"_s), Picture(u"extra1"_s, u"Factory"_s),
                    Picture(u"extra2"_s, u"Factory and defense"_s)},
       gameOver_(u"gameover"_s, u"Game over"_s),
+      roster_(*this, imgSet_),
       land_(Background(), map_) {
     setFocusPolicy(Qt::StrongFocus);
     AddMarkers();
@@ -130,13 +132,14 @@ void frm3::AddCommandBar() {
 
 void frm3::Open() {
     if (game_.GameLoaded) {
-        SetTitle(TurnTitle(game_));
+        SetBoardTitle(TurnTitle(game_));
         RefreshMap();
         SetCommands(AvailableCommands(game_));
     } else {
         SetCommands(CommandSet::None());
         tmrFirst_.start();
     }
+    PlaceAbove(TallestBelow);
     Present();
 }
 
@@ -145,6 +148,19 @@ void frm3::RefreshMap() {
     for (std::size_t t = 0; t < markers_.size(); ++t) {
         RefreshTerritory(static_cast<int>(t), markers_[t]);
     }
+    RefreshRoster();
+}
+
+void frm3::RefreshRoster() {
+    if (treasuryOf_ != game_.CurrentPlayer || game_.GameOver || game_.Current().IsDead) {
+        treasuryOf_.reset();
+    }
+    roster_.Show(game_, treasuryOf_.has_value());
+}
+
+void frm3::SetBoardTitle(std::string_view title) {
+    SetTitle(title);
+    RefreshRoster();
 }
 
 void frm3::RefreshLand() {
@@ -190,6 +206,10 @@ void frm3::SetCommands(CommandSet available) {
         commands_[static_cast<std::size_t>(command)]->SetAvailable(
             available.Has(command), Displayed(whyNot.value_or("Another window wants to be closed first.")));
     }
+    if (available != CommandSet::None()) {
+        treasuryOf_ = game_.CurrentPlayer;
+    }
+    RefreshRoster();
 }
 
 void frm3::ShowGameOver(std::string_view verdict) {
@@ -198,6 +218,17 @@ void frm3::ShowGameOver(std::string_view verdict) {
     for (QWidget* widget : {static_cast<QWidget*>(imgGameOver_), static_cast<QWidget*>(verdict_)}) {
         widget->raise();
         widget->show();
+    }
+}
+
+void frm3::ShowChanges(const MapChanges& changes) {
+    ShowRims(Rim::Changed, changes.Changed);
+    ShowRims(Rim::Conquered, changes.Conquered);
+}
+
+void frm3::ShowRims(Rim rim, const TerritorySet& territories) {
+    for (const QRect& changed : rims_.Show(rim, territories)) {
+        update(Zoomed(changed));
     }
 }
 
@@ -225,8 +256,14 @@ void frm3::paintEvent(QPaintEvent* event) {
     Screen::paintEvent(event);
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.scale(Zoom::OfApplication().Factor(), Zoom::OfApplication().Factor());
+    const qreal zoom = Zoom::OfApplication().Factor();
+    painter.scale(zoom, zoom);
     land_.Paint(painter);
+    QRegion part;  // in pixels of the layout
+    for (const QRect& rect : event->region()) {
+        part |= QRectF(QPointF(rect.topLeft()) / zoom, QSizeF(rect.size()) / zoom).toAlignedRect();
+    }
+    rims_.Paint(painter, part);
 }
 
 void frm3::mousePressEvent(QMouseEvent* event) {

@@ -4,12 +4,17 @@
 #include <QPointer>
 #include <QTimer>
 #include <array>
+#include <optional>
+#include <string_view>
 
+#include "state/changes.h"
 #include "state/game_state.h"
 #include "turn/commands.h"
 #include "ui/windows/board_window.h"
 #include "ui/windows/owner_map.h"
+#include "ui/windows/roster.h"
 #include "ui/windows/territory_map.h"
+#include "ui/windows/territory_rims.h"
 
 class QHelpEvent;
 
@@ -22,12 +27,6 @@ class frm3 final : public BoardWindow {
     Q_OBJECT
 
 public:
-    // Lower edges of the windows in front of the board, in pixels of the layout from its top. Reports leave
-    // the command bar visible; dialogs cover it, as its commands are disabled then, and leave more of the
-    // map.
-    static constexpr int LowerEdgeOfReports = 428;
-    static constexpr int LowerEdgeOfDialogs = 517;
-
     static constexpr QSize Size{750, 525};  ///< in pixels of the layout
 
     frm3(const GameState& game, GameNavigation& navigation);
@@ -38,8 +37,14 @@ public:
 
     void RefreshMap() override;
     void SetCommands(CommandSet available);
+    void SetBoardTitle(std::string_view title);
+
     /// Lays the game-over picture, with the verdict on it, over the map.
     void ShowGameOver(std::string_view verdict);
+
+    /// Draws a rim round the territories that have changed, a stronger one where the owner has, and removes
+    /// those of the previous call.
+    void ShowChanges(const MapChanges& changes);
 
     void AddTerritoryField(Field& field) override;
 
@@ -63,6 +68,8 @@ private:
     void AddMarkers();
     void AddCommandBar();
     void RefreshLand();
+    void RefreshRoster();
+    void ShowRims(Rim rim, const TerritorySet& territories);
     void RefreshTerritory(int t, const Marker& marker);
     void ShowTerritoryTip(const QHelpEvent& event);
     void Run(Command command);
@@ -77,8 +84,11 @@ private:
     PictureLabel* imgGameOver_;
     TextLabel* verdict_;
     QTimer tmrFirst_;
+    Roster roster_;
+    std::optional<int> treasuryOf_;  ///< the player who has had commands enabled in this turn
     TerritoryMap map_;
     OwnerMap land_;
+    TerritoryRims rims_{map_};
     QPointer<Field> lastTerritoryField_;  ///< has, or last had, the focus
 };
 

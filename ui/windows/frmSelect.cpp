@@ -28,6 +28,7 @@ frmSelect::frmSelect(BoardWindow& board, GameState& game, Random& random, GameNa
     board.AddTerritoryField(*txtNum_);
     txtNum_->setFocus();
     lbl1_->Show(selection_.Open());
+    board.RefreshMap();
 }
 
 void frmSelect::Entr() {

@@ -18,8 +18,8 @@ constexpr QRgb Casing = qRgba(8, 14, 26, 170);
 // In the order of Rim
 const std::array<RimLook, 4>& Looks() {
     static const std::array<RimLook, 4> looks{{{QColor(255, 252, 232), 1.5, QColor(255, 255, 255, 26)},
-                                               {QColor(255, 190, 70), 1.3, Qt::transparent},
-                                               {QColor(255, 160, 20), 2.8, Qt::transparent},
+                                               {QColor(130, 235, 255), 1.3, Qt::transparent},
+                                               {QColor(90, 225, 255), 2.8, Qt::transparent},
                                                {QColor(255, 255, 255), 2.6, QColor(255, 255, 255, 60)}}};
     return looks;
 }
