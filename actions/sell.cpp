@@ -29,7 +29,7 @@ bool HasOil(const GameState& game, std::int16_t barrels) {
     return barrels == 0 || barrels <= game.Current().Oil;
 }
 
-// Where the units would come from, or why they cannot.
+/// The territory of the units, or why they cannot be sold from it.
 std::variant<Refusal, int> SourceOf(const GameState& game, const Units& force, const TradeEntries& entries) {
     auto choice = UnitTerritory(Selling, KindOf(force), entries);
     if (const int* t = std::get_if<int>(&choice); t != nullptr) {

@@ -95,16 +95,16 @@ std::optional<TradeBooking> Book(GameState& game, const TradeTerms& terms, const
     Territory& territory = game.TerritoryAt(t);
     const Dollars dollars = DollarsFor(terms, order);
     TradeBooking booking{{}, dollars.Total()};
-    const auto enter = [&](int amount, const char* goods, int price, const std::string& where) {
+    const auto addLine = [&](int amount, const char* goods, int price, const std::string& where) {
         if (amount != 0) {
             booking.Lines += std::string("You ") + terms.PastVerb + " " + std::to_string(amount) + " " +
                              goods + " for $" + std::to_string(price) + where + ".\r";
         }
     };
     const std::string place = " in " + std::string(territory.Name);
-    enter(order.Force.Troops, "Troops", dollars.Troops, place);
-    enter(order.Force.Tanks, "Tanks", dollars.Tanks, place);
-    enter(LotsOf(order) * BarrelsPerDollar, "oil barrels", dollars.Oil, "");
+    addLine(order.Force.Troops, "Troops", dollars.Troops, place);
+    addLine(order.Force.Tanks, "Tanks", dollars.Tanks, place);
+    addLine(LotsOf(order) * BarrelsPerDollar, "oil barrels", dollars.Oil, "");
     booking.Lines += LotsOf(order) != 0 ? "\r" : "";
 
     player.Total = result->Total;

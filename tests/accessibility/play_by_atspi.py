@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""play_by_atspi.py VORLUND: goes through every screen by what a screen reader gets of it, and by nothing else.
+"""play_by_atspi.py VORLUND: plays through every screen over AT-SPI, as a screen reader does.
 
-Brings its own display, session bus and home; needs xvfb-run, dbus-run-session, at-spi2-core and its Python binding."""
+Starts its own X server, session bus and home; needs xvfb-run, dbus-run-session, at-spi2-core and its Python binding."""
 
 import contextlib
 import os
@@ -14,7 +14,7 @@ import time
 TURN = "Vorlund - Anna's turn"
 BOARD = ("button Buy (B)|button Sell (S)|button Transport (R)|button Attack (A)|button Upgrade (U)|button Status (T)|"
          "button End Turn (E)|button Save (V)")
-# What the commands of the board lead to, all that can be done there (role, name, key and description), and some of it
+# For each command of the board: the dialog's title, its controls (role, name, key and description), and actions in it
 DIALOGS = {
     "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):|text Number of Tanks($40):|"
             "text Barrels of Oil($1/3):|button Buy (Enter)"),
@@ -34,29 +34,29 @@ DIALOGS = {
 
 
 def start_inside(program):
-    """Runs this script again where there is a display, a bus and an empty home."""
+    """Runs this script again with an X server, a session bus and an empty home."""
     with tempfile.TemporaryDirectory() as home:
         env = os.environ | {
             "HOME": home, "XDG_DATA_HOME": "", "XDG_RUNTIME_DIR": home, "SDL_AUDIODRIVER": "dummy",
             "QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "NO_AT_BRIDGE": "0",
-            "LC_ALL": "C.UTF-8", "GSETTINGS_BACKEND": "memory"}  # where nobody has said that there is no screen reader
+            "LC_ALL": "C.UTF-8", "GSETTINGS_BACKEND": "memory"}  # the user's settings may switch AT-SPI off
         command = ["xvfb-run", "-a", "-s", "-screen 0 1000x800x24", "dbus-run-session", "--", sys.executable,
                    "-W", "ignore::DeprecationWarning", __file__, "--inside", program]
         return subprocess.run(command, env=env, check=False).returncode
 
 
-class Listener:
-    """Hears one run of the program, and presses and types in it."""
+class Program:
+    """One run of the program, observed and controlled over AT-SPI."""
 
     def __init__(self, program):
         self.alerts = set()
-        self.ear = Atspi.EventListener.new(self.on_event)
+        self.listener = Atspi.EventListener.new(self.on_event)
         for kind in ("object:state-changed:showing", "object:property-change:accessible-name"):
-            self.ear.register(kind)
+            self.listener.register(kind)
         self.process = subprocess.Popen([program])
 
     def on_event(self, event):
-        with contextlib.suppress(GLib.Error):  # gone again
+        with contextlib.suppress(GLib.Error):  # the source has been destroyed
             if event.source.get_role() == Atspi.Role.ALERT:
                 self.alerts.add(event.source.get_name())
 
@@ -65,55 +65,55 @@ class Listener:
         while time.monotonic() < end:
             while GLib.MainContext.default().iteration(False):
                 pass
-            with contextlib.suppress(GLib.Error, StopIteration):  # not there yet, or gone while it was looked at
+            with contextlib.suppress(GLib.Error, StopIteration):  # does not exist yet, or was destroyed meanwhile
                 if found := condition():
                     return found
             time.sleep(0.02)
-        raise AssertionError(f"never came: {what}")
+        raise AssertionError(f"timeout: {what}")
 
     def windows(self):
         program = next(c for c in children(Atspi.get_desktop(0)) if c.get_process_id() == self.process.pid)
-        program.set_cache_mask(Atspi.Cache.NONE)  # what is asked for is asked of the program
+        program.set_cache_mask(Atspi.Cache.NONE)  # every query goes to the program
         return [w for w in children(program) if has(w, "SHOWING")]
 
     def nodes(self, window):
-        return shown(next(w for w in self.windows() if w.get_name() == window))
+        return showing(next(w for w in self.windows() if w.get_name() == window))
 
-    def at(self, window, due, *deeds):
-        """What can be done in the window, in its order, is exactly `due`, and no picture is without a name. Then
-        does some of it: presses "Buy", or types the 7 of "Territory #:=7"."""
-        story = {"window": window, "due": due}
+    def use(self, window, expected, *actions):
+        """Waits until the controls of the window are `expected`, then carries out the actions: "Buy" presses a control,
+        "Territory #:=7" sets the text of a field."""
+        state = {"window": window, "expected": expected}
 
-        def same():
-            story["seen"] = "|".join(describe(n) for n in self.nodes(window) if counts(n))
-            return story["seen"] == due
-        self.wait_for(story, same)
-        for name, _, text in (deed.partition("=") for deed in deeds):
-            control = next(n for n in self.nodes(window) if n.get_name() == name and counts(n))
+        def as_expected():
+            state["found"] = "|".join(describe(n) for n in self.nodes(window) if is_control(n))
+            return state["found"] == expected
+        self.wait_for(state, as_expected)
+        for name, _, text in (action.partition("=") for action in actions):
+            control = next(n for n in self.nodes(window) if n.get_name() == name and is_control(n))
             is_choice = control.get_role() in (Atspi.Role.RADIO_BUTTON, Atspi.Role.CHECK_BOX)
             assert Atspi.EditableText.set_text_contents(control, text) if text else Atspi.Action.do_action(control, 0)
-            self.wait_for(f"the tick at {name!r}", lambda: not is_choice or has(control, "CHECKED"))
+            self.wait_for(f"{name!r} is checked", lambda: not is_choice or has(control, "CHECKED"))
 
-    def report(self, headline):
-        self.wait_for(f"the alert {headline!r}", lambda: headline in self.alerts)
-        self.at(headline, "button Continue (Enter)", "Continue")
+    def close_report(self, headline):
+        self.wait_for(f"alert {headline!r}", lambda: headline in self.alerts)
+        self.use(headline, "button Continue (Enter)", "Continue")
 
 
 def children(node):
     return filter(None, map(node.get_child_at_index, range(node.get_child_count())))
 
 
-def shown(node):
-    """All that is shown below `node`."""
-    return [n for child in children(node) if has(child, "SHOWING") for n in (child, *shown(child))]
+def showing(node):
+    """The showing descendants of `node`."""
+    return [n for child in children(node) if has(child, "SHOWING") for n in (child, *showing(child))]
 
 
 def has(node, state):
     return node.get_state_set().contains(getattr(Atspi.StateType, state))
 
 
-def counts(node):
-    """Whether it can be used, or is a picture without a name, which there should be none of."""
+def is_control(node):
+    """Whether it can be pressed, edited or focused. Pictures without a name count too, so that none passes."""
     acts = any(Atspi.Action.get_action_name(node, i) in ("Press", "Toggle") for i in range(node.get_n_actions()))
     role = node.get_role()
     return (acts or has(node, "EDITABLE") or (has(node, "FOCUSABLE") and role != Atspi.Role.LABEL)
@@ -122,52 +122,51 @@ def counts(node):
 
 def describe(node):
     key = Atspi.Action.get_key_binding(node, 0) if node.get_n_actions() and not has(node, "EDITABLE") else ""
-    more = node.get_description().removeprefix(f"Key: {key}")
-    more = more.removeprefix("You have no nuclear bomb.")  # which chance may have given
+    description = node.get_description().removeprefix(f"Key: {key}")
+    description = description.removeprefix("You have no nuclear bomb.")  # unless research has found one
     role = node.get_role_name().removeprefix("push ")
-    return f"{role} {node.get_name()}" + (f" ({key})" if key else "") + (f": {more}" if more else "")
+    return f"{role} {node.get_name()}" + (f" ({key})" if key else "") + (f": {description}" if description else "")
 
 
-def play(game):
-    game.at("Vorlund", "button Play Game|button Load Game|button Exit", "Play Game")
-    game.at("Vorlund - New Game", "radio button 2 Players|radio button 3 Players|radio button 4 Players|"
-            "radio button 5 Players|button Continue > (Enter)", "3 Players", "2 Players", "Continue >")
+def play(program):
+    program.use("Vorlund", "button Play Game|button Load Game|button Exit", "Play Game")
+    program.use("Vorlund - New Game", "radio button 2 Players|radio button 3 Players|radio button 4 Players|"
+                "radio button 5 Players|button Continue > (Enter)", "3 Players", "2 Players", "Continue >")
     toggle = "Player {} is played by the computer".format
     rows = "".join(f"text Player {n}'s name:|check box {toggle(n)}: {toggle(n)}|" for n in (1, 2))
-    game.at("Vorlund - New Game", rows + "button Continue > (Enter)", toggle(2), "Player 1's name:=Anna", "Continue >")
-    game.at("Vorlund - Territory Select", "text Territory number (1-42):|button Enter (Enter)",
-            "Territory number (1-42):=7", "Enter")
-    game.report("Upkeep status for Player 1, Anna.")
-    game.wait_for("own and other territories", lambda: {n.get_name() for n in game.nodes(TURN) if ": " in n.get_name()}
-                  > {"7 Midwest USA: Anna (Player 1), 10 troops, 0 tanks, factory"})
-    game.at(TURN, BOARD.replace("(A)", "(A): Nobody attacks in their first turn."), "End Turn")
-    game.report("The computer did the following:")
-    game.report("Upkeep status for Player 1, Anna.")
-    for command, (title, due, *deeds) in DIALOGS.items():
-        game.at(TURN, BOARD, command)
+    program.use("Vorlund - New Game", rows + "button Continue > (Enter)",
+                toggle(2), "Player 1's name:=Anna", "Continue >")
+    program.use("Vorlund - Territory Select", "text Territory number (1-42):|button Enter (Enter)",
+                "Territory number (1-42):=7", "Enter")
+    program.close_report("Upkeep status for Player 1, Anna.")
+    own = "7 Midwest USA: Anna (Player 1), 10 troops, 0 tanks, factory"
+    program.wait_for("names of the territories", lambda: own in {n.get_name() for n in program.nodes(TURN)})
+    program.use(TURN, BOARD.replace("(A)", "(A): Nobody attacks in their first turn."), "End Turn")
+    program.close_report("The computer did the following:")
+    program.close_report("Upkeep status for Player 1, Anna.")
+    for command, (title, expected, *actions) in DIALOGS.items():
+        program.use(TURN, BOARD, command)
         if command in ("Buy", "Sell"):
-            deeds = [f"{field[5:]}={text}" for field, text in zip(due.split("|"), "7100")] + [command]
-        game.at(title, due, *deeds)
+            actions = [f"{field[5:]}={text}" for field, text in zip(expected.split("|"), "7100")] + [command]
+        program.use(title, expected, *actions)
         if command in ("Buy", "Sell"):
-            game.report("Details on current transaction:")
-        elif not deeds:
-            game.wait_for(f"the focus in {title!r}", lambda: any(has(n, "FOCUSED") for n in game.nodes(title)))
+            program.close_report("Details on current transaction:")
+        elif not actions:
+            program.wait_for(f"focus in {title!r}", lambda: any(has(n, "FOCUSED") for n in program.nodes(title)))
             Atspi.generate_keyboard_event(9, None, Atspi.KeySynthType.PRESSRELEASE)  # Escape
-    game.at("Vorlund", "image |button OK", "OK")  # the toolkit gives its own sign no name
+    program.use("Vorlund", "image |button OK", "OK")  # the toolkit gives the box's icon no name
 
 
-def load(game):
-    game.at("Vorlund", "button Play Game|button Load Game|button Exit", "Load Game")
-    first = "Select a saved game first."
-    game.at("Vorlund - Load Game", "list Select a saved game from the list below:|list item walk.vrs|"
-            f"button Load Game (Enter): {first}|button Delete Game (Delete): {first}|button Cancel", "walk.vrs")
-    due = ("list Select a saved game from the list below:|list item walk.vrs|"
-           "button Load Game (Enter)|button Delete Game (Delete)|button Cancel")
-    game.at("Vorlund - Load Game", due, "Delete Game")
-    game.at("Confirm Delete", "button Yes (Alt+Y)|button No (Alt+N)", "No")
-    game.wait_for("the load screen alone", lambda: len(game.windows()) == 1)
-    game.at("Vorlund - Load Game", due, "Load Game")
-    game.at(TURN, BOARD)
+def load(program):
+    program.use("Vorlund", "button Play Game|button Load Game|button Exit", "Load Game")
+    controls = ("list Select a saved game from the list below:|list item walk.vrs|"
+                "button Load Game (Enter){0}|button Delete Game (Delete){0}|button Cancel")
+    program.use("Vorlund - Load Game", controls.format(": Select a saved game first."), "walk.vrs")
+    program.use("Vorlund - Load Game", controls.format(""), "Delete Game")
+    program.use("Confirm Delete", "button Yes (Alt+Y)|button No (Alt+N)", "No")
+    program.wait_for("message box closed", lambda: len(program.windows()) == 1)
+    program.use("Vorlund - Load Game", controls.format(""), "Load Game")
+    program.use(TURN, BOARD)
 
 
 if sys.argv[1] != "--inside":
@@ -176,9 +175,9 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 Atspi.init()
-for way in (play, load):
-    listener = Listener(sys.argv[2])
-    way(listener)
-    listener.process.terminate()
-    listener.process.wait()
-print("Played to the second turn, and through every screen.")
+for steps in (play, load):
+    run = Program(sys.argv[2])
+    steps(run)
+    run.process.terminate()
+    run.process.wait()
+print("Played through every screen to the second turn.")
