@@ -5,20 +5,21 @@
 
 namespace vorlund {
 
-/// What the quantities of an order count.
+/// What a quantity of an order counts.
 enum class Goods { Troops, Tanks, Oil };
 
-/// The largest quantity of some goods that an order could take now. Negative ones are no quantities.
+/// The largest quantity of some goods that an order would accept now; 0 also when none is accepted.
 struct Most {
     int Amount = 0;     ///< at most LargestQuantity
-    std::string Words;  ///< with what bounds it: "at most 11 with $118", "10 troops in 7"
+    std::string Words;  ///< with what limits it: "at most 11 with $118", "10 troops in 7"
 
     bool operator==(const Most&) const = default;
 };
 
-inline constexpr int LargestQuantity = 999;  ///< that can be entered in digits
+inline constexpr int LargestQuantity = 999;  ///< of three digits
 
-/// The largest quantity for which `accepts` is true, as it is for all smaller ones; 0 if it is for none.
+/// The largest quantity for which `accepts` is true; it must be true for all smaller ones. 0 if there is
+/// none.
 template <class Accepts>
 int LargestAccepted(Accepts accepts) {
     int accepted = 0;
@@ -30,11 +31,10 @@ int LargestAccepted(Accepts accepts) {
     return accepted;
 }
 
-/// The most of the `held` troops or tanks in territory index `territory`, of which an order can take
-/// `amount`.
+/// The Most of an order that accepts `amount` of the `held` troops or tanks in territory index `territory`.
 Most MostOfUnits(int amount, int held, Goods goods, int territory);
 
-/// The most of an order whose territory has not been entered, or is no place of the player's for it.
+/// The Most of an order whose territory has not been entered or is none that the order accepts.
 Most NoTerritoryYet();
 
 }  // namespace vorlund
