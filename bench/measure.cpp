@@ -19,6 +19,9 @@
 // program instead: the game with that window.
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Row(const char* what, double value, const char* unit, double budget) {
@@ -99,7 +102,7 @@ double RatioToBareWindow(const QString& window, int runs, double (*cost)(const C
     std::vector<double> bare;
     for (int i = 0; i < runs; ++i) {
         game.push_back(cost(Child(QApplication::applicationFilePath(), window)));
-        bare.push_back(cost(Child(QStringLiteral(BARE_WINDOW), window)));
+        bare.push_back(cost(Child(QString::fromUtf8(BARE_WINDOW), window)));
     }
     std::printf("  (%.1f against %.1f)\n", Median(game), Median(bare));
     return Median(game) / Median(bare);
@@ -138,7 +141,7 @@ QWidget& Shown(const char* type) {
 /// The longest time from a key press on the board to the first paint of its dialog, in milliseconds.
 double SlowestKey() {
     double slowest = 0;
-    for (const QChar key : QStringLiteral("bsrautv")) {
+    for (const QChar key : u"bsrautv"_s) {
         QElapsedTimer clock;
         FirstPaint paint("vorlund::CommandDialog",
                          [&] { slowest = std::max(slowest, ElapsedMilliseconds(clock)); });

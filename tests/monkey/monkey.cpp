@@ -12,13 +12,17 @@
 #include "ui/windows/frm3.h"
 
 namespace vorlund {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::clock_t LongestEvent = 2 * CLOCKS_PER_SEC;  ///< CPU time, which other processes do not affect
 
-const QString Keys = QStringLiteral(
-    "B,S,R,A,U,T,E,V,E,E,Return,Return,Enter,Escape,Tab,Shift+Tab,Space,Delete,Backspace,Up,Down,PgDown,Home,"
-    "Ctrl+V,Menu,F1,Alt+F4,Alt+1,Alt+3,Ctrl+Z,Ctrl+V,Shift+T,\u00DF");
+const QString Keys =
+    u"B,S,R,A,U,T,E,V,E,E,Return,Return,Enter,Escape,Tab,Shift+Tab,Space,Delete,Backspace,Up,Down,PgDown,"
+    u"Home,"
+    u"Ctrl+V,Menu,F1,Alt+F4,Alt+1,Alt+3,Ctrl+Z,Ctrl+V,Shift+T,\u00DF"_s;
 
 QString toolkitMessage;
 
@@ -26,7 +30,7 @@ QString toolkitMessage;
 /// and on events for windows that have closed meanwhile.
 void KeepMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
     static const QRegularExpression harmless(
-        QStringLiteral("^This plugin does not support|^Mouse event at|setNetWmStateOnUnmappedWindow"));
+        u"^This plugin does not support|^Mouse event at|setNetWmStateOnUnmappedWindow"_s);
     toolkitMessage = message.contains(harmless) ? toolkitMessage : message;
 }
 
@@ -69,7 +73,7 @@ public:
         for (char name = 'a'; name <= 'l'; ++name) {  // enough to fill the list
             saves_.Save(std::string(1, name) + ".vrs", RandomPosition(random_), true);
         }
-        if (!QFile(folder_.filePath(QStringLiteral("0 empty.vrs"))).open(QIODevice::WriteOnly)) {
+        if (!QFile(folder_.filePath(u"0 empty.vrs"_s)).open(QIODevice::WriteOnly)) {
             Fail("no file can be written");
         }
         QGuiApplication::clipboard()->clear();
@@ -131,10 +135,10 @@ private:
         const bool mayEndGame = window.parentWidget() == nullptr && !game_.GameOver;
         const int kind = random_.Draw(100);
         if (kind < 4 && (!mayEndGame || OneIn(10, random_))) {
-            done_ << NameOf(window) + QStringLiteral(" closed");
+            done_ << NameOf(window) + u" closed"_s;
             window.windowHandle()->close();
         } else if (kind < 6) {
-            done_ << NameOf(window) + QStringLiteral(" activated");
+            done_ << NameOf(window) + u" activated"_s;
             window.windowHandle()->requestActivate();
         } else if (kind < 30) {
             done_ << NameOf(window) + u' ' + OneOf(Keys.split(u','), random_);
@@ -154,7 +158,7 @@ private:
         const QPoint place = target.mapTo(&window, within);
         const auto button = OneIn(10, random_) ? Qt::RightButton : Qt::LeftButton;
         const char* const kind = OneOf(std::array{"hover", "double", "click", "click", "click"}, random_);
-        done_ << QStringLiteral("%1 %2 %3 %4").arg(NameOf(window), kind).arg(place.x()).arg(place.y());
+        done_ << u"%1 %2 %3 %4"_s.arg(NameOf(window), kind).arg(place.x()).arg(place.y());
         if (*kind == 'h') {
             QTest::mouseMove(window.windowHandle(), place);
         } else if (*kind == 'd') {
@@ -184,15 +188,14 @@ private:
     }
 
     QString Entry(const QString& field, const Route& route) {
-        if (field == QLatin1String("txtSave") || field.startsWith(QLatin1String("txtN("))) {
+        if (field == u"txtSave"_s || field.startsWith(u"txtN("_s)) {
             return QString::fromStdString(NameEntry(random_));
         }
-        return QString::fromStdString(
-            field == QLatin1String("txtTroops")  ? QuantityEntry(route.Force.Troops, random_)
-            : field == QLatin1String("txtTanks") ? QuantityEntry(route.Force.Tanks, random_)
-            : field == QLatin1String("txtOil")   ? QuantityEntry(30, random_)
-            : field == QLatin1String("txtC1") || OneIn(3, random_) ? route.From
-                                                                   : route.To);
+        return QString::fromStdString(field == u"txtTroops"_s  ? QuantityEntry(route.Force.Troops, random_)
+                                      : field == u"txtTanks"_s ? QuantityEntry(route.Force.Tanks, random_)
+                                      : field == u"txtOil"_s   ? QuantityEntry(30, random_)
+                                      : field == u"txtC1"_s || OneIn(3, random_) ? route.From
+                                                                                 : route.To);
     }
 
     static CommandSet Enabled(const QWidget& board) {
@@ -221,7 +224,7 @@ private:
         }
         // Before the first turn, players without a territory are alive.
         const QWidget* const board = Board();
-        if (board == nullptr || board->windowTitle() == QLatin1String("Vorlund")) {
+        if (board == nullptr || board->windowTitle() == u"Vorlund"_s) {
             return "";
         }
         const CommandSet enabled = Enabled(*board);
@@ -230,10 +233,9 @@ private:
             broken += BrokenSaving(game_);
         }
         for (int t = 0; t < NumTerritories; ++t) {
-            const auto* const count = board->findChild<QLabel*>(QStringLiteral("lblCntry(%1)").arg(t));
+            const auto* const count = board->findChild<QLabel*>(u"lblCntry(%1)"_s.arg(t));
             const Territory& territory = game_.TerritoryAt(t);
-            const QString units =
-                QStringLiteral("%1/%2").arg(territory.Stationed.Troops).arg(territory.Stationed.Tanks);
+            const QString units = u"%1/%2"_s.arg(territory.Stationed.Troops).arg(territory.Stationed.Tanks);
             if (count->isHidden() ? territory.Occupied : count->text() != units) {
                 broken += "the board does not show what stands in " + std::string(territory.Name);
             }
