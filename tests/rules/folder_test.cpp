@@ -248,6 +248,16 @@ TEST_F(SavedGames, CanBeWrittenByTwoProcessesAtOnce) {
                                               "unfinished-x-1.tmp"}));
 }
 
+TEST_F(SavedGames, AreToldApartByFileAndNotByPath) {
+    const SystemCalls calls = RealSystemCalls();
+    Put("other.vrs", Old);
+    const int file = calls.OpenForReading(path / "my.vrs");
+    EXPECT_EQ(calls.IsNamed(file, path / "my.vrs"), 1);
+    EXPECT_EQ(calls.IsNamed(file, path / "other.vrs"), 0);
+    EXPECT_EQ(calls.IsNamed(file, path / "none.vrs"), 0);
+    EXPECT_EQ(calls.Close(file), 0);
+}
+
 TEST_F(SavedGames, BehindASymbolicLinkAreReplacedButNotTheLink) {
     const fs::path disk = path.parent_path() / "disk";
     const std::string behind = "It is a link to '" + (disk / "real.vrs").string() + "'.\r";
@@ -300,13 +310,13 @@ TEST_F(SavedGames, AreRegularFilesOnly) {
 }
 
 TEST_F(SavedGames, AreListedInOrderAndDeletedByExactName) {
-    for (const char* const name : {"zoo.vrs", "Beta.vrs", ".vrs", "GAME.VRS", "a.vrs.bak", "*.vrs"}) {
+    for (const char* const name : {"Zoo.vrs", "Beta.vrs", ".vrs", "GAME.VRS", "a.vrs.bak", "*.vrs"}) {
         Put(name, "");
     }
     const SavedGamesFolder folder(path);
     EXPECT_EQ(folder.Delete("*.vrs"), std::nullopt);
     EXPECT_EQ(folder.Delete("*.vrs"), "The game '*.vrs' could not be deleted.\r" + Reason(ENOENT));
-    const std::vector<std::string> all{".vrs", "Beta.vrs", "my.vrs", "zoo.vrs"};
+    const std::vector<std::string> all{".vrs", "Beta.vrs", "my.vrs", "Zoo.vrs"};
     EXPECT_EQ(folder.List().Files, all);
     FailingCalls blind{0, {"Look"}, EACCES};
     EXPECT_EQ(SavedGamesFolder(path, blind.Calls()).List().Files, all);
