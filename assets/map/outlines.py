@@ -177,5 +177,11 @@ def write_outlines(land, path):
     write([([t], ring) for t in sorted(land) for ring in sorted(rings_of(land[t]), key=len, reverse=True)], path)
 
 
+def write_signs(signs, path):
+    """signs is [(territory, box)]."""
+    corners = [(t, shape.bounds) for t, shape in signs]
+    write([([t], [(west, north), (east, south)]) for t, (west, north, east, south) in corners], path)
+
+
 def write_borders(arcs, path):
     write([(pair, line) for pair in sorted(arcs) if pair[0] for line in arcs[pair]], path)

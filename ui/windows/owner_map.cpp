@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "ui/windows/distance_field.h"
 #include "ui/windows/map_lines.h"
 #include "ui/windows/owner_colours.h"
 
@@ -23,7 +24,7 @@ constexpr qreal EdgeEnd = 4.5;
 constexpr qreal EdgeStrength = 0.8;
 constexpr QRgb LineColour = qRgb(10, 14, 20);
 constexpr QRgb SeaColour = qRgb(20, 30, 40);
-constexpr int Far = 255;  ///< stands for a distance of EdgeEnd or more
+constexpr int Far = DistanceField::Far;  ///< stands for a distance of EdgeEnd or more
 
 constexpr int FullRepaintThreshold = 6;  ///< composing that many territories one by one takes longer than all
 
@@ -33,14 +34,6 @@ QRgb Blend(QRgb one, QRgb other, qreal share) {
         return static_cast<int>(std::lround(of(one) * share + of(other) * (1 - share)));
     };
     return qRgb(part(qRed), part(qGreen), part(qBlue));
-}
-
-qreal SquaredDistance(QPointF place, QPointF from, QPointF to) {
-    const QPointF along = to - from;
-    const qreal length = QPointF::dotProduct(along, along);
-    const qreal share = length > 0 ? QPointF::dotProduct(place - from, along) / length : 0;
-    const QPointF away = place - from - along * std::clamp(share, 0.0, 1.0);
-    return QPointF::dotProduct(away, away);
 }
 
 /// `rect` grown by the reach of a front's edge.
@@ -102,13 +95,9 @@ void OwnerMap::Paint(QPainter& painter) {
     painter.drawImage(0, 0, composed_);
 }
 
-QRect OwnerMap::Pixels(const QRect& part) const {
-    return QRectF(QPointF(part.topLeft()) * ratio_, QSizeF(part.size()) * ratio_).toAlignedRect();
-}
-
 void OwnerMap::SetScale(qreal ratio) {
     ratio_ = ratio;
-    const QSize size = Pixels(QRect(QPoint(), size_)).size();
+    const QSize size = DevicePixels(QRect(QPoint(), size_), ratio_).size();
     composed_ = QImage(size, QImage::Format_RGB32);
     composed_.setDevicePixelRatio(ratio);
     territoryNumbers_ = QImage(size, QImage::Format_Grayscale8);
@@ -124,28 +113,13 @@ void OwnerMap::SetScale(qreal ratio) {
 }
 
 void OwnerMap::MeasureDistances(Border& border) const {
-    const QRect all = Pixels(border.Box).intersected(composed_.rect());
-    std::vector<qreal> squaredDistances(static_cast<std::size_t>(all.width() * all.height()),
-                                        EdgeEnd * EdgeEnd);
-    const auto square = [&](int x, int y) -> qreal& {
-        return squaredDistances[static_cast<std::size_t>((y - all.top()) * all.width() + x - all.left())];
-    };
-    const auto onBoard = [&](int x, int y) { return QPointF(x + 0.5, y + 0.5) / ratio_; };
-    for (qsizetype i = 1; i < border.Line.size(); ++i) {
-        const QPointF from = border.Line[i - 1];
-        const QPointF to = border.Line[i];
-        const QRect reached = Pixels(GrownByEdge(QRectF(from, to).normalized())).intersected(all);
-        for (int y = reached.top(); y <= reached.bottom(); ++y) {
-            for (int x = reached.left(); x <= reached.right(); ++x) {
-                square(x, y) = std::min(square(x, y), SquaredDistance(onBoard(x, y), from, to));
-            }
-        }
-    }
+    const QRect all = DevicePixels(border.Box, ratio_).intersected(composed_.rect());
+    DistanceField field(all, ratio_, EdgeEnd);
+    field.Add(border.Line);
     border.Pixels.clear();
     for (int y = all.top(); y <= all.bottom(); ++y) {
         for (int x = all.left(); x <= all.right(); ++x) {
-            const auto distance = static_cast<int>(std::sqrt(square(x, y)) / EdgeEnd * Far);
-            if (distance < Far) {
+            if (const int distance = field.At(x, y); distance < Far) {
                 border.Pixels.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y),
                                          static_cast<std::uint8_t>(distance)});
             }
@@ -168,7 +142,7 @@ void OwnerMap::FillColourTable() {
 }
 
 void OwnerMap::Compose(const QRect& part) {
-    const QRect pixels = Pixels(part).intersected(composed_.rect());
+    const QRect pixels = DevicePixels(part, ratio_).intersected(composed_.rect());
     FillLand(pixels, DistancesFromFronts(part, pixels));
     // The same memory without a device pixel ratio, so that coordinates are device pixels
     QImage canvas(composed_.bits(), composed_.width(), composed_.height(), composed_.bytesPerLine(),

@@ -53,7 +53,6 @@ private:
     };
 
     QRect BoundsOf(std::size_t territory) const;
-    QRect Pixels(const QRect& part) const;
     void SetScale(qreal ratio);
     void MeasureDistances(Border& border) const;
     void FillColourTable();

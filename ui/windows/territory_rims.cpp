@@ -2,26 +2,56 @@
 #include "ui/windows/territory_rims.h"
 
 #include <QPainter>
+#include <algorithm>
+
+#include "ui/windows/distance_field.h"
 
 namespace vorlund {
 namespace {
 
+// From the outline inwards, in pixels of the layout: a part of the map's border stays dark, also between two
+// rims; then comes the bright line, and a dark one within it.
+constexpr qreal BorderEnd = 0.45;
+constexpr qreal CasingWidth = 1.2;
+constexpr QRgb CasingColour = qRgb(8, 14, 26);
+constexpr int CasingAlpha = 170;
+
 struct RimLook {
-    QColor Line;
-    qreal Width;  // in pixels of the board
-    QColor Wash;  // over the land within
+    QRgb Colour;
+    qreal LineEnd;
+    int WashAlpha;  ///< of white over the land within
 };
 
-constexpr qreal CasingWidth = 1.2;  // of the dark line within the bright one
-constexpr QRgb Casing = qRgba(8, 14, 26, 170);
-
 // In the order of Rim
-const std::array<RimLook, 4>& Looks() {
-    static const std::array<RimLook, 4> looks{{{QColor(255, 252, 232), 1.5, QColor(255, 255, 255, 26)},
-                                               {QColor(130, 235, 255), 1.3, Qt::transparent},
-                                               {QColor(90, 225, 255), 2.8, Qt::transparent},
-                                               {QColor(255, 255, 255), 2.6, QColor(255, 255, 255, 60)}}};
-    return looks;
+constexpr std::array<RimLook, 4> Looks{{{qRgb(255, 252, 232), 1.6, 30},
+                                        {qRgb(130, 235, 255), 1.6, 0},
+                                        {qRgb(90, 225, 255), 3.0, 0},
+                                        {qRgb(255, 255, 255), 2.8, 60}}};
+
+QRgb WithAlpha(QRgb colour, qreal alpha) {
+    return qRgba(qRed(colour), qGreen(colour), qBlue(colour), static_cast<int>(alpha));
+}
+
+/// The colours of a rim by their distance from the outline, as DistanceField counts it up to `reach`.
+std::array<QRgb, DistanceField::Far + 1> ColoursOf(const RimLook& look, qreal reach, qreal ratio) {
+    QImage colours(DistanceField::Far + 1, 1, QImage::Format_ARGB32_Premultiplied);
+    colours.fill(QColor(255, 255, 255, look.WashAlpha));
+    QPainter painter(&colours);
+    for (int distance = 0; distance < DistanceField::Far; ++distance) {
+        const qreal away = distance * reach / DistanceField::Far;
+        const auto lay = [&](QRgb colour, int alpha, qreal end) {
+            const qreal share = std::clamp((end - away) * ratio + 0.5, 0.0, 1.0);
+            painter.fillRect(distance, 0, 1, 1, QColor::fromRgba(WithAlpha(colour, alpha * share)));
+        };
+        lay(CasingColour, CasingAlpha, look.LineEnd + CasingWidth);
+        lay(look.Colour, 255, look.LineEnd);
+        lay(CasingColour, CasingAlpha, BorderEnd);
+    }
+    painter.end();
+    std::array<QRgb, DistanceField::Far + 1> table{};
+    const auto* first = reinterpret_cast<const QRgb*>(colours.constScanLine(0));
+    std::copy(first, first + table.size(), table.begin());
+    return table;
 }
 
 }  // namespace
@@ -32,35 +62,72 @@ QRegion TerritoryRims::Show(Rim rim, const TerritorySet& territories) {
     shown = territories;
     QRegion region;
     for (int t = 0; t < NumTerritories; ++t) {
-        if (changed.test(static_cast<std::size_t>(t))) {
-            region |= TouchedBy(t);
+        if (Has(changed, t)) {
+            region |= BoundsOf(t);
+            images_.erase({rim, t});
         }
     }
     return region;
 }
 
-QRect TerritoryRims::TouchedBy(int territory) const {
+QRect TerritoryRims::BoundsOf(int territory) const {
     return map_.Outline(territory).controlPointRect().toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 
-void TerritoryRims::Paint(QPainter& painter, const QRegion& part) const {
-    painter.setRenderHint(QPainter::Antialiasing);
-    for (std::size_t rim = 0; rim < shown_.size(); ++rim) {
-        const RimLook& look = Looks()[rim];
+void TerritoryRims::Paint(QPainter& painter, const QRegion& part) {
+    if (const qreal ratio = painter.deviceTransform().m11(); ratio_ != ratio) {
+        ratio_ = ratio;
+        images_.clear();
+    }
+    painter.save();
+    painter.setClipRegion(part - map_.Signs(), painter.hasClipping() ? Qt::IntersectClip : Qt::ReplaceClip);
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
         for (int t = 0; t < NumTerritories; ++t) {
-            if (!shown_[rim].test(static_cast<std::size_t>(t)) || !part.intersects(TouchedBy(t))) {
+            if (!Has(shown_[i], t) || !part.intersects(BoundsOf(t))) {
                 continue;
             }
-            const QPainterPath& outline = map_.Outline(t);
-            painter.save();
-            painter.setClipPath(outline, Qt::IntersectClip);
-            painter.fillPath(outline, look.Wash);
-            // Half of each line lies outside and is cut off.
-            painter.strokePath(outline, QPen(QColor::fromRgba(Casing), 2 * (look.Width + CasingWidth)));
-            painter.strokePath(outline, QPen(look.Line, 2 * look.Width));
-            painter.restore();
+            const auto rim = static_cast<Rim>(i);
+            const auto [image, isNew] = images_.try_emplace({rim, t});
+            if (isNew) {
+                image->second = Draw(rim, t);
+            }
+            painter.drawImage(QPointF(DevicePixels(BoundsOf(t), ratio_).topLeft()) / ratio_, image->second);
         }
     }
+    painter.restore();
+}
+
+QImage TerritoryRims::Draw(Rim rim, int territory) const {
+    const QPainterPath& outline = map_.Outline(territory);
+    const QRect pixels = DevicePixels(BoundsOf(territory), ratio_);
+    const RimLook& look = Looks[static_cast<std::size_t>(rim)];
+    const qreal reach = look.LineEnd + CasingWidth + 1;
+    const auto colours = ColoursOf(look, reach, ratio_);
+    DistanceField field(pixels, ratio_, reach);
+    for (const QPolygonF& ring : outline.toSubpathPolygons()) {
+        field.Add(ring);
+    }
+    QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < pixels.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < pixels.width(); ++x) {
+            row[x] = colours[static_cast<std::size_t>(field.At(pixels.left() + x, pixels.top() + y))];
+        }
+    }
+    QImage land(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    land.fill(0);
+    QPainter painter(&land);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-pixels.topLeft());
+    painter.scale(ratio_, ratio_);
+    painter.fillPath(outline, Qt::white);
+    painter.end();
+    QPainter cut(&image);
+    cut.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    cut.drawImage(0, 0, land);
+    cut.end();
+    image.setDevicePixelRatio(ratio_);
+    return image;
 }
 
 }  // namespace vorlund
