@@ -89,8 +89,8 @@ TerritorySet Destinations(const GameState& game, const OrderTerms& terms, std::s
 }
 
 Most MostToSend(const GameState& game, const OrderTerms& terms, const OrderEntries& entries, Goods goods) {
-    const auto from = SourceIn(game, terms, entries.From);
-    if (!from) {
+    const auto from = ReadTerritory(entries.From, TerritoryRounding::Index);
+    if (!from || !Owns(game, game.CurrentPlayer, *from)) {
         return NoTerritoryYet();
     }
     auto to = ReadTerritory(entries.To, TerritoryRounding::Index);

@@ -47,8 +47,8 @@ TerritorySet Sources(const GameState& game, const OrderTerms& terms);
 /// from any of them.
 TerritorySet Destinations(const GameState& game, const OrderTerms& terms, std::string_view from);
 
-/// The most troops or tanks that could be sent, "10 troops in 7", if one of the Sources is entered. The room
-/// at the destination limits it if a possible one is entered.
+/// The most troops or tanks that could be sent, "10 troops in 7", if an own territory is entered. The room at
+/// the destination limits it if a possible one is entered.
 Most MostToSend(const GameState& game, const OrderTerms& terms, const OrderEntries& entries, Goods goods);
 
 /// The order that `entries` describe, or a refusal when CanReach is false, the territory does not hold the

@@ -14,16 +14,20 @@ import time
 TURN = "Vorlund - Anna's turn"
 BOARD = ("button Buy (B)|button Sell (S)|button Transport (R)|button Attack (A)|button Upgrade (U)|button Status (T)|"
          "button End Turn (E)|button Save (V)")
+NONE_YET = ": Enter a territory of yours first."
 # For each command of the board: the dialog's title, its controls (role, name, key and description), and actions in it
 DIALOGS = {
-    "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):|text Number of Tanks($40):|"
-            "text Barrels of Oil($1/3):|button Buy (Enter)"),
-    "Sell": ("Vorlund - Sell", "text Territory #:|text Number of Troops($7):|text Number of Tanks($30):|"
-             "text Barrels of Oil($1/3):|button Sell (Enter)"),
+    "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):: at most 14 with $144|"
+            "text Number of Tanks($40):: at most 3 with $144|text Barrels of Oil($1/3):: at most 432 with $144|"
+            "button Buy (Enter)"),
+    "Sell": ("Vorlund - Sell", f"text Territory #:|text Number of Troops($7):{NONE_YET}|"
+             f"text Number of Tanks($30):{NONE_YET}|"
+             "text Barrels of Oil($1/3):: 30 barrels|button Sell (Enter)"),
     "Transport": ("Vorlund - Transport", "text Original territory #:|text Resulting territory #:|"
-                  "text Number of Troops:|text Number of Tanks:|button Move (Enter)"),
-    "Attack": ("Vorlund - Attack", "text Attacking territory #:|text Defending territory #:|text Number of Troops:|"
-               "text Number of Tanks:|button Attack (Enter)|text Territory # to nuke:|"
+                  f"text Number of Troops:{NONE_YET}|text Number of Tanks:{NONE_YET}|button Move (Enter)"),
+    "Attack": ("Vorlund - Attack", "text Attacking territory #:|text Defending territory #:|"
+               f"text Number of Troops:{NONE_YET}|"
+               f"text Number of Tanks:{NONE_YET}|button Attack (Enter)|text Territory # to nuke:|"
                "button Launch Nuke (Enter)"),
     "Upgrade": ("Vorlund - Upgrade", "button Upgrade (Alt+1): Economy|button Upgrade (Alt+2): Warfare|"
                 "button Upgrade (Alt+3): Nuclear|text Territory #:: Build Factory|button Build Factory (Enter)|"
@@ -147,7 +151,8 @@ def play(program):
     for command, (title, expected, *actions) in DIALOGS.items():
         program.use(TURN, BOARD, command)
         if command in ("Buy", "Sell"):
-            actions = [f"{field[5:]}={text}" for field, text in zip(expected.split("|"), "7100")] + [command]
+            names = [field[5:].partition(": ")[0] for field in expected.split("|")]
+            actions = [f"{name}={text}" for name, text in zip(names, "7100")] + [command]
         program.use(title, expected, *actions)
         if command in ("Buy", "Sell"):
             program.close_report("Details on current transaction:")

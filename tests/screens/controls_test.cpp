@@ -158,27 +158,6 @@ TEST(Controls, DialogsAndReportsHaveNoMinimiseButton) {
     }
 }
 
-TEST(Controls, AClickOnTheMapFillsInTheFocusedTerritoryField) {
-    const std::vector<std::array<QString, 3>> rows{
-        {"b", "txtC1", "txtC1"},       {"s\t", "txtC1", "txtC1"}, {"r", "txtC1", "txtC2"},
-        {"r\t\t\t", "txtC2", "txtC2"}, {"a", "txtC1", "txtC2"},   {"a\t", "txtC2", "txtC2"},
-        {"a\t\t\t\t", "txtN", "txtN"}, {"u\t", "txtC2", "txtC2"}};
-    Sitting sitting;
-    sitting.Resume(AnnaAndBen());
-    for (const auto& [keys, field, next] : rows) {
-        Type(keys);
-        const QWidget& dialog = *QWidget::find(FrontWindow().winId());
-        for (const QPoint place : {MarkerOf(35), Atlantic}) {  // at sea there is no territory
-            Window("frm3").activateWindow();
-            Click("frm3", place);
-            EXPECT_EQ(Text(dialog.objectName(), field), "35") << keys.toStdString();
-            EXPECT_EQ(dialog.focusWidget()->objectName(), next) << keys.toStdString();
-        }
-        Window(dialog.objectName()).activateWindow();
-        Type("\033");
-    }
-}
-
 TEST(Controls, TooltipsOfTerritoriesAndCommands) {
     Sitting sitting;
     sitting.Resume(AnnaAndBen(" FirstTurn 1 MovesLeft 0"));

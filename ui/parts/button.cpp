@@ -8,6 +8,10 @@
 
 namespace vorlund {
 
+Button::Button(QWidget* parent) : Placed(parent) {
+    setCursor(Qt::PointingHandCursor);
+}
+
 void Button::PressByEvent() {
     QCoreApplication::postEvent(this, new QShortcutEvent({}, 0));
 }
@@ -22,6 +26,13 @@ bool Button::event(QEvent* event) {
         return true;
     }
     return QAbstractButton::event(event);
+}
+
+void Button::changeEvent(QEvent* event) {
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) {
+        setCursor(isEnabled() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
 }
 
 void Button::keyPressEvent(QKeyEvent* event) {

@@ -8,12 +8,12 @@
 namespace vorlund {
 
 /// Base class of commands and toggles. Space presses them; Enter is passed on to the window, even where the
-/// platform theme lists Enter among its press keys.
+/// platform theme lists Enter among its press keys. The pointer is a hand over one that is enabled.
 class Button : public Placed<QAbstractButton> {
     Q_OBJECT
 
 public:
-    using Placed::Placed;
+    explicit Button(QWidget* parent);
 
     QSize sizeHint() const override { return size(); }
 
@@ -23,6 +23,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

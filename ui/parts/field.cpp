@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "ui/parts/field.h"
 
+#include <QWheelEvent>
+#include <algorithm>
+
 #include "ui/parts/keys.h"
 
 namespace vorlund {
+namespace {
+
+int StepSize(Qt::KeyboardModifiers modifiers) {
+    return modifiers.testFlag(Qt::ShiftModifier) ? 10 : 1;
+}
+
+}  // namespace
 
 Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int maxLength) : Placed(parent) {
     setObjectName(objectName);
@@ -28,7 +38,32 @@ void Field::AcceptTerritoryClicks(Field* next) {
 void Field::EnterTerritory(int number) {
     setText(QString::number(number));
     window()->activateWindow();
-    (next_ != nullptr ? next_ : this)->setFocus();
+    Field* focus = next_ != nullptr ? next_ : this;
+    focus->setFocus();
+    focus->selectAll();
+}
+
+void Field::AcceptSteps(std::function<Limit()> limit) {
+    limit_ = std::move(limit);
+    setFocusPolicy(Qt::WheelFocus);
+    DescribeLimit();
+}
+
+void Field::DescribeLimit() {
+    if (limit_) {
+        const QString text = limit_().Text;
+        setToolTip(text);
+        setAccessibleDescription(text);
+    }
+}
+
+void Field::Step(int by) {
+    const int before = text().toInt();
+    const int after = std::clamp(before + by, 0, limit_().Most);
+    if (after != before) {
+        setText(QString::number(after));
+        selectAll();
+    }
 }
 
 std::string Field::Typed() const {
@@ -37,7 +72,15 @@ std::string Field::Typed() const {
     return text().toStdString() + (text().isValidUtf16() ? "" : "\xFF");
 }
 
+bool Field::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        DescribeLimit();
+    }
+    return QLineEdit::event(event);
+}
+
 void Field::focusInEvent(QFocusEvent* event) {
+    DescribeLimit();
     QLineEdit::focusInEvent(event);
     if (acceptsTerritoryClicks_) {
         emit TerritoryFieldFocused();
@@ -45,11 +88,29 @@ void Field::focusInEvent(QFocusEvent* event) {
 }
 
 void Field::keyPressEvent(QKeyEvent* event) {
+    const bool up = event->key() == Qt::Key_Up;
     if (IsEnter(*event)) {
         emit Entered();
+    } else if (limit_ && IsPlain(*event) && (up || event->key() == Qt::Key_Down)) {
+        Step((up ? 1 : -1) * StepSize(event->modifiers()));
     } else {
         QLineEdit::keyPressEvent(event);
     }
+}
+
+void Field::wheelEvent(QWheelEvent* event) {
+    if (!limit_) {
+        QLineEdit::wheelEvent(event);
+        return;
+    }
+    // With Shift some systems report the wheel as a horizontal one.
+    const QPoint angle = event->angleDelta();
+    const bool horizontal = angle.y() == 0 && event->modifiers().testFlag(Qt::ShiftModifier);
+    wheelAngle_ += horizontal ? angle.x() : angle.y();
+    const int steps = wheelAngle_ / QWheelEvent::DefaultDeltasPerStep;
+    wheelAngle_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+    Step(steps * StepSize(event->modifiers()));
+    event->accept();
 }
 
 }  // namespace vorlund

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
+#include "state/territory_set.h"
 #include "ui/parts/screen.h"
 
 namespace vorlund {
@@ -15,8 +18,8 @@ public:
     virtual void RefreshMap() = 0;
 
     /// Makes `field` a target of clicks on the map: a click on a territory enters its number in the territory
-    /// field that has, or last had, the focus.
-    virtual void AddTerritoryField(Field& field) = 0;
+    /// field that has, or last had, the focus. Meanwhile the territories that `candidates` returns are lit.
+    virtual void AddTerritoryField(Field& field, std::function<TerritorySet()> candidates) = 0;
 };
 
 }  // namespace vorlund

@@ -30,10 +30,23 @@ void CommandDialog::EnableUnless(CommandLabel& command, const WhyNot& whyNot) {
     command.SetAvailable(!whyNot, Displayed(whyNot.value_or("")));
 }
 
-void CommandDialog::AcceptTerritoryClicks(std::initializer_list<Field*> fields) {
+void CommandDialog::AcceptTerritoryClicks(const std::vector<TerritoryField>& fields, Field* quantity) {
     for (auto field = fields.begin(); field != fields.end(); ++field) {
-        (*field)->AcceptTerritoryClicks(field + 1 == fields.end() ? nullptr : *(field + 1));
-        host_.Board().AddTerritoryField(**field);
+        const auto next = field + 1;
+        field->Where->AcceptTerritoryClicks(next == fields.end() ? quantity : next->Where);
+        host_.Board().AddTerritoryField(*field->Where, field->Candidates);
+    }
+}
+
+void CommandDialog::AcceptSteps(const std::vector<QuantityField>& fields) {
+    for (const QuantityField& field : fields) {
+        field.Where->AcceptSteps([most = field.MostOf] {
+            const Most now = most();
+            return Field::Limit{now.Amount, Displayed(now.Words)};
+        });
+        for (const Field* other : findChildren<Field*>()) {
+            connect(other, &Field::textChanged, field.Where, &Field::DescribeLimit);
+        }
     }
 }
 

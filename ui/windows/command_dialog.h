@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <initializer_list>
+#include <functional>
+#include <vector>
 
+#include "actions/most.h"
 #include "actions/outcome.h"
+#include "state/territory_set.h"
 #include "turn/commands.h"
 #include "turn/report.h"
 #include "ui/parts/screen.h"
@@ -32,9 +35,23 @@ protected:
     /// Enables a command, or disables it with the reason as its tooltip.
     static void EnableUnless(CommandLabel& command, const WhyNot& whyNot);
 
+    struct TerritoryField {
+        Field* Where;
+        std::function<TerritorySet()> Candidates;  ///< the territories that the command could take there
+    };
+
+    struct QuantityField {
+        Field* Where;
+        std::function<Most()> MostOf;  ///< the most that the command could take there
+    };
+
     /// Makes `fields`, the territory fields of one command, targets of clicks on the map. Each click moves
-    /// the focus to the next of them.
-    void AcceptTerritoryClicks(std::initializer_list<Field*> fields);
+    /// the focus to the next of them, and at last to `quantity`, if there is one.
+    void AcceptTerritoryClicks(const std::vector<TerritoryField>& fields, Field* quantity = nullptr);
+
+    /// Lets the wheel and the arrow keys change these fields, and describes their limits in them. The dialog
+    /// must have all its fields.
+    void AcceptSteps(const std::vector<QuantityField>& fields);
 
     bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;

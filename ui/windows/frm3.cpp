@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/windows/frm3.h"
 
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QWindow>
 #include <algorithm>
 #include <cstdlib>
 #include <string>
@@ -81,7 +83,11 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
       gameOver_(u"gameover"_s, u"Game over"_s),
       roster_(*this, imgSet_),
       land_(Background(), map_) {
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus);  // a click leaves the focus where it is
+    connect(&picker_, &TerritoryPicker::Changed, this, &frm3::RefreshCandidates);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) {
+        lastWindow_ = window != nullptr && window != windowHandle() ? window : lastWindow_.data();
+    });
     AddMarkers();
     AddCommandBar();
     AddText(u"help"_s, Face::Caption, QRect(668, 468, 70, 15), "F1: the rules")
@@ -148,6 +154,7 @@ void frm3::RefreshMap() {
     for (std::size_t t = 0; t < markers_.size(); ++t) {
         RefreshTerritory(static_cast<int>(t), markers_[t]);
     }
+    RefreshCandidates();
     RefreshRoster();
 }
 
@@ -248,8 +255,46 @@ bool frm3::HandleCloseRequest() {
     return true;
 }
 
-void frm3::AddTerritoryField(Field& field) {
-    connect(&field, &Field::TerritoryFieldFocused, this, [this, &field] { lastTerritoryField_ = &field; });
+void frm3::AddTerritoryField(Field& field, std::function<TerritorySet()> candidates) {
+    picker_.Add(field, std::move(candidates));
+}
+
+void frm3::RefreshCandidates() {
+    ShowRims(Rim::Lit, picker_.Candidates());
+    if (picker_.Target() == nullptr) {
+        PointAt(std::nullopt);
+    }
+}
+
+std::optional<int> frm3::TerritoryAt(QPointF place) const {
+    if (imgGameOver_->isVisible()) {
+        return std::nullopt;
+    }
+    const auto isAt = [&](const QWidget* widget, const QRect& part) {
+        return widget->isVisible() && part.translated(widget->pos()).contains(place.toPoint());
+    };
+    // A count may lie over a neighbour's marker.
+    for (std::size_t t = 0; t < markers_.size(); ++t) {
+        if (isAt(markers_[t].lblCntry, markers_[t].lblCntry->Plate())) {
+            return static_cast<int>(t);
+        }
+    }
+    for (std::size_t t = 0; t < markers_.size(); ++t) {
+        const Marker& marker = markers_[t];
+        if (isAt(marker.imgCntry, marker.imgCntry->rect()) ||
+            isAt(marker.imgExtra, marker.imgExtra->rect())) {
+            return static_cast<int>(t);
+        }
+    }
+    return map_.At(place / Zoom::OfApplication().Factor());
+}
+
+void frm3::PointAt(std::optional<int> territory) {
+    if (pointed_ != territory) {
+        pointed_ = territory;
+        ShowRims(Rim::Pointed, TerritoriesWhere([&](int t) { return t == territory; }));
+        setCursor(territory ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
 }
 
 void frm3::paintEvent(QPaintEvent* event) {
@@ -266,10 +311,26 @@ void frm3::paintEvent(QPaintEvent* event) {
     rims_.Paint(painter, part);
 }
 
+void frm3::mouseMoveEvent(QMouseEvent* event) {
+    PointAt(picker_.Target() != nullptr ? TerritoryAt(event->position()) : std::nullopt);
+    Screen::mouseMoveEvent(event);
+}
+
+void frm3::leaveEvent(QEvent* event) {
+    PointAt(std::nullopt);
+    Screen::leaveEvent(event);
+}
+
 void frm3::mousePressEvent(QMouseEvent* event) {
-    const auto territory = map_.At(event->position() / Zoom::OfApplication().Factor());
-    if (territory && !lastTerritoryField_.isNull() && lastTerritoryField_->isVisible()) {
-        lastTerritoryField_->EnterTerritory(*territory + 1);
+    Field* target = picker_.Target();
+    const auto territory = TerritoryAt(event->position());
+    const bool idle =
+        std::none_of(commands_.begin(), commands_.end(), [](auto* c) { return c->isEnabled(); });
+    if (target != nullptr && territory) {
+        target->EnterTerritory(*territory + 1);
+    } else if ((target != nullptr || idle) && !lastWindow_.isNull() && lastWindow_->isVisible()) {
+        // The window manager has activated the board, whose keys do nothing now.
+        lastWindow_->requestActivate();
     }
     Screen::mousePressEvent(event);
 }
@@ -283,8 +344,8 @@ bool frm3::event(QEvent* event) {
 }
 
 void frm3::ShowTerritoryTip(const QHelpEvent& event) {
-    const auto territory = map_.At(QPointF(event.pos()) / Zoom::OfApplication().Factor());
-    if (!territory || imgGameOver_->isVisible()) {
+    const auto territory = TerritoryAt(event.pos());
+    if (!territory) {
         QToolTip::hideText();
         return;
     }

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <array>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -14,9 +15,11 @@
 #include "ui/windows/owner_map.h"
 #include "ui/windows/roster.h"
 #include "ui/windows/territory_map.h"
+#include "ui/windows/territory_picker.h"
 #include "ui/windows/territory_rims.h"
 
 class QHelpEvent;
+class QWindow;
 
 namespace vorlund {
 
@@ -46,7 +49,10 @@ public:
     /// those of the previous call.
     void ShowChanges(const MapChanges& changes);
 
-    void AddTerritoryField(Field& field) override;
+    void AddTerritoryField(Field& field, std::function<TerritorySet()> candidates) override;
+
+    /// Gives these territories and no others the rim.
+    void ShowRims(Rim rim, const TerritorySet& territories);
 
     /// The marker of player index `player`.
     const Picture& imgSet(int player) const { return imgSet_[static_cast<std::size_t>(player)]; }
@@ -54,7 +60,9 @@ public:
 protected:
     bool HandleCloseRequest() override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
 
@@ -69,8 +77,10 @@ private:
     void AddCommandBar();
     void RefreshLand();
     void RefreshRoster();
-    void ShowRims(Rim rim, const TerritorySet& territories);
     void RefreshTerritory(int t, const Marker& marker);
+    std::optional<int> TerritoryAt(QPointF place) const;
+    void PointAt(std::optional<int> territory);
+    void RefreshCandidates();
     void ShowTerritoryTip(const QHelpEvent& event);
     void Run(Command command);
 
@@ -89,7 +99,9 @@ private:
     TerritoryMap map_;
     OwnerMap land_;
     TerritoryRims rims_{map_};
-    QPointer<Field> lastTerritoryField_;  ///< has, or last had, the focus
+    TerritoryPicker picker_;
+    std::optional<int> pointed_;    ///< the territory that the pointer is on, while a click enters it
+    QPointer<QWindow> lastWindow_;  ///< of the others, the one that has, or last had, the focus
 };
 
 }  // namespace vorlund

@@ -17,6 +17,8 @@ frmAttack::frmAttack(DialogHost& host, GameState& game, Random& random, Sounds& 
     AddBattleHalf();
     AddLine(u"Line1"_s, QPoint(22, 108), 370);
     AddStrikeHalf();
+    AcceptSteps({{txtTroops_, [this] { return MostToAttack(game_, Entries(), Goods::Troops); }},
+                 {txtTanks_, [this] { return MostToAttack(game_, Entries(), Goods::Tanks); }}});
     txtC1_->setFocus();
 }
 
@@ -34,7 +36,9 @@ void frmAttack::AddBattleHalf() {
     lblAttack_ = AddCommand(u"lblAttack"_s, u"Attack"_s, QRect(336, 56, 60, 19));
     lblAttack_->SetKey(u"Enter"_s);
     EnableUnless(*lblAttack_, WhyNoAttack(game_));
-    AcceptTerritoryClicks({txtC1_, txtC2_});
+    AcceptTerritoryClicks({{txtC1_, [this] { return AttackSources(game_); }},
+                           {txtC2_, [this] { return AttackDestinations(game_, txtC1_->Typed()); }}},
+                          txtTroops_);
     connect(lblAttack_, &CommandLabel::clicked, this, &frmAttack::Attack);
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
         connect(field, &Field::Entered, this, &frmAttack::Attack);
@@ -50,14 +54,17 @@ void frmAttack::AddStrikeHalf() {
     lblStrike_ = AddCommand(u"lblStrike"_s, u"Launch Nuke"_s, QRect(296, 144, 108, 19));
     lblStrike_->SetKey(u"Enter"_s);
     EnableUnless(*lblStrike_, WhyNoStrike(game_));
-    AcceptTerritoryClicks({txtN_});
+    AcceptTerritoryClicks({{txtN_, [this] { return StrikeTargets(game_); }}});
     connect(lblStrike_, &CommandLabel::clicked, this, &frmAttack::LaunchNuke);
     connect(txtN_, &Field::Entered, this, &frmAttack::LaunchNuke);
 }
 
+OrderEntries frmAttack::Entries() const {
+    return {txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+}
+
 void frmAttack::Attack() {
-    const OrderEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
-    const auto outcome = Attck(game_, random_, entries);
+    const auto outcome = Attck(game_, random_, Entries());
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Gun);
     }

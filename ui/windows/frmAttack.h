@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "actions/order.h"
 #include "state/game_state.h"
 #include "state/random.h"
 #include "ui/windows/command_dialog.h"
@@ -19,6 +20,7 @@ public:
 private:
     void AddBattleHalf();
     void AddStrikeHalf();
+    OrderEntries Entries() const;
     void Attack();
     void LaunchNuke();
 

@@ -8,9 +8,9 @@ namespace vorlund {
 using namespace Qt::StringLiterals;
 
 frmBuy::frmBuy(DialogHost& host, GameState& game)
-    : TradeDialog(host,
+    : TradeDialog(host, game,
                   {u"frmBuy"_s, u"Vorlund - Buy"_s, QSize(391, 138), 128, 168, 298,
-                   "Territory # with Factory:", BuyingPrices, u"Buy"_s},
+                   "Territory # with Factory:", BuyingPrices, u"Buy"_s, BuyTerritories, MostToBuy},
                   MoneyLine(game)),
       game_(game) {}
 

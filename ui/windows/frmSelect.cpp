@@ -25,7 +25,7 @@ frmSelect::frmSelect(BoardWindow& board, GameState& game, Random& random, GameNa
     connect(lblGo, &CommandLabel::clicked, this, &frmSelect::Entr);
     connect(txtNum_, &Field::Entered, this, &frmSelect::Entr);
     txtNum_->AcceptTerritoryClicks();
-    board.AddTerritoryField(*txtNum_);
+    board.AddTerritoryField(*txtNum_, [this] { return selection_.Free(); });
     txtNum_->setFocus();
     lbl1_->Show(selection_.Open());
     board.RefreshMap();

@@ -8,9 +8,9 @@ namespace vorlund {
 using namespace Qt::StringLiterals;
 
 frmSell::frmSell(DialogHost& host, GameState& game)
-    : TradeDialog(host,
+    : TradeDialog(host, game,
                   {u"frmSell"_s, u"Vorlund - Sell"_s, QSize(348, 135), 76, 130, 246,
-                   "Territory #:", SellingPrices, u"Sell"_s},
+                   "Territory #:", SellingPrices, u"Sell"_s, SellTerritories, MostToSell},
                   "You may sell oil or Troops/Tanks in any of your territories."),
       game_(game) {}
 

@@ -26,13 +26,20 @@ frmTransport::frmTransport(DialogHost& host, GameState& game)
     for (Field* field : {txtC1_, txtC2_, txtTroops_, txtTanks_}) {
         connect(field, &Field::Entered, this, &frmTransport::Move);
     }
-    AcceptTerritoryClicks({txtC1_, txtC2_});
+    AcceptTerritoryClicks({{txtC1_, [this] { return MoveSources(game_); }},
+                           {txtC2_, [this] { return MoveDestinations(game_, txtC1_->Typed()); }}},
+                          txtTroops_);
+    AcceptSteps({{txtTroops_, [this] { return MostToMove(game_, Entries(), Goods::Troops); }},
+                 {txtTanks_, [this] { return MostToMove(game_, Entries(), Goods::Tanks); }}});
     txtC1_->setFocus();
 }
 
+OrderEntries frmTransport::Entries() const {
+    return {txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
+}
+
 void frmTransport::Move() {
-    const OrderEntries entries{txtC1_->Typed(), txtC2_->Typed(), txtTroops_->Typed(), txtTanks_->Typed()};
-    std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, Tran(game_, entries));
+    std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, Tran(game_, Entries()));
 }
 
 void frmTransport::ShowOutcome(const Moved& moved) {

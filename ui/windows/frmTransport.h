@@ -14,6 +14,7 @@ public:
     frmTransport(DialogHost& host, GameState& game);
 
 private:
+    OrderEntries Entries() const;
     void Move();
 
     using CommandDialog::ShowOutcome;

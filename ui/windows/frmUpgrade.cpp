@@ -29,8 +29,9 @@ frmUpgrade::frmUpgrade(DialogHost& host, GameState& game)
     AddLine(u"Line3"_s, QPoint(12, 125), Width - 24);
     AddTrack(Track::Nuclear, u"Nuclear"_s, 3, 130);
     AddLine(u"Line6"_s, QPoint(12, 167), Width - 24);
-    AddConstruction(1, 177, u"Label7"_s, u"txtC1"_s, u"Build Factory"_s, FactoryPrice, &Fact);
-    AddConstruction(2, 227, u"Label1"_s, u"txtC2"_s, u"Build Defense"_s, DefensePrice, &Def);
+    AddConstruction(1, 177, u"Label7"_s, u"txtC1"_s,
+                    {u"Build Factory"_s, FactoryPrice, &Fact, &FactorySites});
+    AddConstruction(2, 227, u"Label1"_s, u"txtC2"_s, {u"Build Defense"_s, DefensePrice, &Def, &DefenseSites});
     fields_[0]->setFocus();
     Update({});
 }
@@ -48,23 +49,22 @@ void frmUpgrade::AddTrack(Track track, const QString& name, int number, int y) {
 }
 
 void frmUpgrade::AddConstruction(int number, int y, const QString& captionName, const QString& fieldName,
-                                 const QString& command, int price,
-                                 std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view)) {
+                                 const Building& building) {
     TextLabel* caption = AddText(captionName, Face::Caption, QRect(12, y, 62, 19), "Territory #:");
     Field* field = AddField(caption, fieldName, QPoint(76, y), 2);
-    CommandLabel* go = AddCommand(Numbered(u"lblGo"_s, number + 3), command, QRect(124, y, 118, 19));
+    CommandLabel* go = AddCommand(Numbered(u"lblGo"_s, number + 3), building.Command, QRect(124, y, 118, 19));
     AddText(Numbered(u"lblP"_s, number), Face::Caption, QRect(124, y + 22, 118, 16),
-            "$" + std::to_string(price))
+            "$" + std::to_string(building.Price))
         ->setAlignment(Qt::AlignCenter);
     // Both fields have the same caption; the description tells them apart for screen readers.
-    field->setAccessibleDescription(command);
+    field->setAccessibleDescription(building.Command);
     go->SetKey(u"Enter"_s);
-    const auto run = [this, field, build] {
+    const auto run = [this, field, build = building.Build] {
         std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, build(game_, field->Typed()));
     };
     connect(go, &CommandLabel::clicked, this, run);
     connect(field, &Field::Entered, this, run);
-    AcceptTerritoryClicks({field});
+    AcceptTerritoryClicks({{field, [this, sites = building.Sites] { return sites(game_); }}});
     fields_[static_cast<std::size_t>(number - 1)] = field;
 }
 

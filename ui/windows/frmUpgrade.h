@@ -24,9 +24,15 @@ private:
     };
 
     void AddTrack(Track track, const QString& name, int number, int y);
+    struct Building {
+        QString Command;
+        int Price;
+        std::variant<Refusal, Purchase> (*Build)(GameState&, std::string_view);
+        TerritorySet (*Sites)(const GameState&);
+    };
+
     void AddConstruction(int number, int y, const QString& captionName, const QString& fieldName,
-                         const QString& command, int price,
-                         std::variant<Refusal, Purchase> (*build)(GameState&, std::string_view));
+                         const Building& building);
 
     /// Shows the current state of the game; `message`, the last result, precedes the money line.
     void Update(const std::string& message);

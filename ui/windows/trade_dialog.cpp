@@ -14,7 +14,8 @@ constexpr int TerritoryY = TroopsY + RowHeight / 2;
 
 }  // namespace
 
-TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_view topLine)
+TradeDialog::TradeDialog(DialogHost& host, const GameState& game, const Layout& layout,
+                         std::string_view topLine)
     : CommandDialog(host, layout.Name, layout.Title, layout.Size) {
     AddText(u"lblA"_s, Face::Status, QRect(8, 5, layout.Size.width() - 16, 19), topLine)
         ->setAlignment(Qt::AlignCenter);
@@ -41,7 +42,12 @@ TradeDialog::TradeDialog(DialogHost& host, const Layout& layout, std::string_vie
     for (Field* field : {txtC1_, txtTroops_, txtTanks_, txtOil_}) {
         connect(field, &Field::Entered, this, &TradeDialog::Trade);
     }
-    AcceptTerritoryClicks({txtC1_});
+    AcceptTerritoryClicks({{txtC1_, [&game, in = layout.Territories] { return in(game); }}}, txtTroops_);
+    const auto most = [&](Field* field, Goods goods) {
+        return QuantityField{
+            field, [this, &game, goods, mostOf = layout.MostOf] { return mostOf(game, Entries(), goods); }};
+    };
+    AcceptSteps({most(txtTroops_, Goods::Troops), most(txtTanks_, Goods::Tanks), most(txtOil_, Goods::Oil)});
     txtC1_->setFocus();
 }
 

@@ -22,9 +22,11 @@ protected:
         const char* TerritoryCaption;
         UnitPrices Prices;  ///< shown in the captions
         QString Command;
+        TerritorySet (*Territories)(const GameState&);  ///< in which units could be traded
+        Most (*MostOf)(const GameState&, const TradeEntries&, Goods);
     };
 
-    TradeDialog(DialogHost& host, const Layout& layout, std::string_view topLine);
+    TradeDialog(DialogHost& host, const GameState& game, const Layout& layout, std::string_view topLine);
 
     TradeEntries Entries() const;
 
