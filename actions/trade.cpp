@@ -60,9 +60,15 @@ std::variant<Refusal, int> UnitTerritory(const TradeTerms& terms, const std::str
 }
 
 std::int16_t& CountOf(TradeOrder& order, Goods goods) {
-    return goods == Goods::Troops  ? order.Force.Troops
-           : goods == Goods::Tanks ? order.Force.Tanks
-                                   : order.Oil;
+    switch (goods) {
+        case Goods::Troops:
+            return order.Force.Troops;
+        case Goods::Tanks:
+            return order.Force.Tanks;
+        case Goods::Oil:
+            break;
+    }
+    return order.Oil;
 }
 
 TradeOrder OtherQuantities(TradeEntries entries, Goods goods) {

@@ -51,7 +51,7 @@ void frmAttack::AddStrikeHalf() {
     AddText(u"lblN"_s, Face::Status, QRect(123, 120, 270, 19), BombText(game_));
     TextLabel* label2 = AddText(u"Label2"_s, Face::Caption, QRect(16, 152, 102, 19), "Territory # to nuke:");
     txtN_ = AddField(label2, u"txtN"_s, QPoint(120, 152), 2);
-    lblStrike_ = AddCommand(u"lblStrike"_s, u"Launch Nuke"_s, QRect(296, 144, 108, 19));
+    lblStrike_ = AddCommand(u"lblStrike"_s, u"Launch Nuke"_s, QRect(296, 152, 108, 19));
     lblStrike_->SetKey(u"Enter"_s);
     EnableUnless(*lblStrike_, WhyNoStrike(game_));
     AcceptTerritoryClicks({{txtN_, [this] { return StrikeTargets(game_); }}});

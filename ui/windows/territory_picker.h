@@ -21,7 +21,7 @@ public:
     void Add(Field& field, std::function<TerritorySet()> candidates);
 
     /// The field that a click on the map fills in; null when no window has one.
-    Field* Target() const { return target_; }
+    Field* Target() const { return target_.data(); }
 
     /// The territories that Target could take; none without it.
     TerritorySet Candidates() const;
