@@ -62,12 +62,6 @@ TerritorySet DestinationsFrom(const GameState& game, const OrderTerms& terms, in
     return TerritoriesWhere([&](int to) { return CanReach(game, terms.IsAttack, from, to); });
 }
 
-/// The one of the Sources that is entered, if any.
-std::optional<int> SourceIn(const GameState& game, const OrderTerms& terms, std::string_view entry) {
-    const auto from = ReadTerritory(entry, TerritoryRounding::Index);
-    return from && Has(Sources(game, terms), *from) ? from : std::nullopt;
-}
-
 }  // namespace
 
 TerritorySet Sources(const GameState& game, const OrderTerms& terms) {
@@ -77,10 +71,11 @@ TerritorySet Sources(const GameState& game, const OrderTerms& terms) {
 }
 
 TerritorySet Destinations(const GameState& game, const OrderTerms& terms, std::string_view from) {
-    if (const auto source = SourceIn(game, terms, from)) {
-        return DestinationsFrom(game, terms, *source);
-    }
     const TerritorySet sources = Sources(game, terms);
+    const auto source = ReadTerritory(from, TerritoryRounding::Index);
+    if (source && Owns(game, game.CurrentPlayer, *source)) {
+        return Has(sources, *source) ? DestinationsFrom(game, terms, *source) : TerritorySet();
+    }
     TerritorySet all;
     for (int t = 0; t < NumTerritories; ++t) {
         all |= Has(sources, t) ? DestinationsFrom(game, terms, t) : TerritorySet();

@@ -43,8 +43,8 @@ struct OrderTerms {
 /// The territories from which the current player could send units: own ones with units and a destination.
 TerritorySet Sources(const GameState& game, const OrderTerms& terms);
 
-/// The possible destinations from the territory that is entered as `from` or, if that is none of the Sources,
-/// from any of them.
+/// The possible destinations from the territory that is entered as `from` or, if that is not an own one, from
+/// any of the Sources.
 TerritorySet Destinations(const GameState& game, const OrderTerms& terms, std::string_view from);
 
 /// The most troops or tanks that could be sent, "10 troops in 7", if an own territory is entered. The room at

@@ -19,7 +19,7 @@ public:
 
     /// Makes `field` a target of clicks on the map: a click on a territory enters its number in the territory
     /// field that has, or last had, the focus. Meanwhile the territories that `candidates` returns are lit.
-    virtual void AddTerritoryField(Field& field, std::function<TerritorySet()> candidates) = 0;
+    virtual void AddTerritoryField(Field& field, const std::function<TerritorySet()>& candidates) = 0;
 };
 
 }  // namespace vorlund

@@ -255,8 +255,8 @@ bool frm3::HandleCloseRequest() {
     return true;
 }
 
-void frm3::AddTerritoryField(Field& field, std::function<TerritorySet()> candidates) {
-    picker_.Add(field, std::move(candidates));
+void frm3::AddTerritoryField(Field& field, const std::function<TerritorySet()>& candidates) {
+    picker_.Add(field, candidates);
 }
 
 void frm3::RefreshCandidates() {

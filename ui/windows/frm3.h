@@ -49,7 +49,7 @@ public:
     /// those of the previous call.
     void ShowChanges(const MapChanges& changes);
 
-    void AddTerritoryField(Field& field, std::function<TerritorySet()> candidates) override;
+    void AddTerritoryField(Field& field, const std::function<TerritorySet()>& candidates) override;
 
     /// Gives these territories and no others the rim.
     void ShowRims(Rim rim, const TerritorySet& territories);

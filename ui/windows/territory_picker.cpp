@@ -5,7 +5,7 @@
 
 namespace vorlund {
 
-void TerritoryPicker::Add(Field& field, std::function<TerritorySet()> candidates) {
+void TerritoryPicker::Add(Field& field, const std::function<TerritorySet()>& candidates) {
     connect(&field, &Field::TerritoryFieldFocused, this,
             [this, &field, candidates] { SetTarget(&field, candidates); });
     connect(&field, &Field::textChanged, this, &TerritoryPicker::Changed);

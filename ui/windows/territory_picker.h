@@ -18,7 +18,7 @@ class TerritoryPicker : public QObject {
 public:
     /// Adds a field until its window closes. `candidates` returns the territories that an order could take in
     /// this field, given the other fields of its window.
-    void Add(Field& field, std::function<TerritorySet()> candidates);
+    void Add(Field& field, const std::function<TerritorySet()>& candidates);
 
     /// The field that a click on the map fills in; null when no window has one.
     Field* Target() const { return target_.data(); }

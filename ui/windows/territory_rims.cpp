@@ -3,6 +3,8 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cstring>
+#include <vector>
 
 #include "ui/windows/distance_field.h"
 
@@ -49,8 +51,7 @@ std::array<QRgb, DistanceField::Far + 1> ColoursOf(const RimLook& look, qreal re
     }
     painter.end();
     std::array<QRgb, DistanceField::Far + 1> table{};
-    const auto* first = reinterpret_cast<const QRgb*>(colours.constScanLine(0));
-    std::copy(first, first + table.size(), table.begin());
+    std::memcpy(table.data(), colours.constScanLine(0), table.size() * sizeof(QRgb));
     return table;
 }
 
@@ -108,11 +109,13 @@ QImage TerritoryRims::Draw(Rim rim, int territory) const {
         field.Add(ring);
     }
     QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    std::vector<QRgb> row;
     for (int y = 0; y < pixels.height(); ++y) {
-        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < pixels.width(); ++x) {
-            row[x] = colours[static_cast<std::size_t>(field.At(pixels.left() + x, pixels.top() + y))];
+        row.clear();
+        for (int x = pixels.left(); x <= pixels.right(); ++x) {
+            row.push_back(colours[static_cast<std::size_t>(field.At(x, pixels.top() + y))]);
         }
+        std::memcpy(image.scanLine(y), row.data(), row.size() * sizeof(QRgb));
     }
     QImage land(pixels.size(), QImage::Format_ARGB32_Premultiplied);
     land.fill(0);
