@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QTest>
 #include <QWindow>
 
@@ -34,11 +33,7 @@ TEST(Crossings, ARefusalLeavesTheGameTheDialogAndItsEntries) {
         SCOPED_TRACE(keys.toStdString());
         sitting.Expect({"Warning: " + message});
         Type(keys + u'\n');
-        QStringList entries;
-        for (const QLineEdit* field : QWidget::find(FrontWindow().winId())->findChildren<QLineEdit*>()) {
-            entries << field->text();
-        }
-        EXPECT_TRUE(entries.join('\t').startsWith(keys.mid(1))) << entries.join('|').toStdString();
+        EXPECT_TRUE(Entries().replace('|', '\t').startsWith(keys.mid(1))) << Entries().toStdString();
         EXPECT_TRUE(sitting.Game() == before);
         EXPECT_EQ(Type("\033"), AnnasTurn);
     }
@@ -48,13 +43,16 @@ TEST(Crossings, DialogsReportsAndTheEndOfTheTurn) {
     Sitting sitting;
     sitting.Resume(ThreePlayers);
     EXPECT_EQ(Type("b7\t1\n"), AnnasTurn + " | Vorlund - Buy");
+    const auto reportOwner = [] { return Window("frmReport").windowHandle()->transientParent(); };
+    EXPECT_EQ(reportOwner(), nullptr);
+    EXPECT_EQ(QGuiApplication::focusWindow(), Window("frmReport").windowHandle());
     EXPECT_EQ(Click("frm3", "lblTransport"), AnnasDisabledBoard + "Vorlund - Buy | Vorlund - Transport");
-    Type("7\t6\t2");
-    EXPECT_EQ(Close("frmReport"), AnnasTurn + " | Vorlund - Transport")
-        << "enables the commands all the same";
+    Type("7\t6\t2\t1");
+    EXPECT_EQ(Close("frmReport"), AnnasTurn + " | Vorlund - Transport") << "with the commands enabled";
+    EXPECT_EQ(QGuiApplication::focusWindow(), Window("frm3").windowHandle());
     EXPECT_EQ(Click("frm3", "lblTransport"), AnnasDisabledBoard + "Vorlund - Transport");
     Press(Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_EQ(Text("frmTransport", "lblA"), "Move to Western USA was successful.");
+    EXPECT_EQ(Text("frmTransport", "lblA") + Entries(), "Move to Western USA was successful.7|6||");
     EXPECT_EQ(Type("\033u"), AnnasDisabledBoard + "Vorlund - Upgrade");
     EXPECT_EQ(Click("frm3", "lblBuy"), AnnasDisabledBoard + "Vorlund - Upgrade") << "a disabled command";
     Type("\033b7\t1\n");
@@ -66,6 +64,7 @@ TEST(Crossings, DialogsReportsAndTheEndOfTheTurn) {
     EXPECT_EQ(Close("frm3"), AnnasTurn + " | Vorlund - Upgrade | Vorlund - Buy");
     EXPECT_EQ(Click("frm3", "lblEndTurn"), "Vorlund - Ben's turn [] | Vorlund - Upkeep");
     EXPECT_TRUE(ReportText().startsWith("[Player 2] Upkeep status for Player 2, Ben.\n"));
+    EXPECT_EQ(reportOwner(), Window("frm3").windowHandle());
     sitting.Expect({LeaveQuestion, "y"});
     EXPECT_TRUE(EndsProgram([] { Close("frm3"); }));
 }
@@ -148,9 +147,12 @@ TEST(Crossings, InputToAClosingDialog) {
     Sitting sitting;
     sitting.Resume(ThreePlayers);
     Type("b");
-    Window("frmBuy").close();
+    QWidget& closing = Window("frmBuy");
+    closing.close();
     QKeyEvent key(QEvent::KeyPress, Qt::Key_B, {}, "b");
     QApplication::sendEvent(&Window("frm3"), &key);  // before the event loop deletes the dialog
+    QCloseEvent again;
+    QApplication::sendEvent(&closing, &again);
     QTest::qWait(1);
     EXPECT_EQ(Desktop(), AnnasDisabledBoard + "Vorlund - Buy");
     sitting.Expect({NoTransaction, "", [] {

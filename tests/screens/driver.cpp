@@ -2,6 +2,8 @@
 #include "tests/screens/driver.h"
 
 #include <QApplication>
+#include <QHelpEvent>
+#include <QLineEdit>
 #include <QMetaEnum>
 #include <QPointer>
 #include <QTest>
@@ -185,6 +187,14 @@ QString Text(const QString& window, const QString& control) {
     return widget.isVisible() ? widget.property("text").toString() : "(not seen)";
 }
 
+QString Entries() {
+    QStringList entries;
+    for (const auto* field : QWidget::find(FrontWindow().winId())->findChildren<QLineEdit*>()) {
+        entries << field->text();
+    }
+    return entries.join('|');
+}
+
 QString ReportText() {
     const QWidget* const marker = &Control("frmReport", "imgC");
     return (marker->isVisible() ? "[" + marker->accessibleName() + "] " : QString()) +
@@ -264,6 +274,12 @@ QString Fill(const QString& window, const QString& field, const QString& text) {
 void PointAt(const QString& window, QPoint place) {
     QTest::mouseMove(Window(window).windowHandle(), place);
     QCoreApplication::processEvents();
+}
+
+void ShowTooltip(const QString& window, QPoint place) {
+    QWidget& target = Window(window);
+    QHelpEvent event(QEvent::ToolTip, place, target.mapToGlobal(place));
+    QApplication::sendEvent(&target, &event);
 }
 
 QString Close(const QString& window) {

@@ -108,6 +108,9 @@ QWidget& Window(const QString& name);
 QWidget& Control(const QString& window, const QString& control);
 QString Text(const QString& window, const QString& control);  ///< "(not seen)" if the control is hidden
 
+/// The texts of the fields in the front window: "7|8||".
+QString Entries();
+
 /// The report's marker in brackets, its headline and its body, on separate lines.
 QString ReportText();
 
@@ -127,6 +130,7 @@ QString Click(const QString& window, const QString& control);
 QString Fill(const QString& window, const QString& field, const QString& text);
 QString Close(const QString& window);  ///< by a request of the window manager
 void PointAt(const QString& window, QPoint place);
+void ShowTooltip(const QString& window, QPoint place);
 
 /// True if `action` ends the program and no window is left.
 bool EndsProgram(const std::function<void()>& action);

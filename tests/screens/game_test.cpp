@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QDir>
 #include <QTest>
+#include <QToolTip>
 #include <QWindow>
 
 #include "tests/engine/seeded_random.h"
@@ -20,13 +22,18 @@ QString Select(const QString& number) {
     return Text("frmSelect", "lbl1");
 }
 
-QString StatusLines() {
-    QStringList lines;
-    for (const char* name :
-         {"Name", "Money", "Oil", "Troops", "Tanks", "Fact", "Debt", "Eco", "War", "Nuc", "AM", "Upkeep"}) {
-        lines << Text("frmStatus", QString("lbl") + name);
-    }
-    return lines.join(" | ");
+/// Counts the timer events of 200 milliseconds.
+int TimerEvents() {
+    struct : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            Count += event->type() == QEvent::Timer ? 1 : 0;
+            return false;
+        }
+        int Count = 0;
+    } counter;
+    qApp->installEventFilter(&counter);
+    QTest::qWait(200);
+    return counter.Count;
 }
 
 void BeginGame(Sitting& sitting) {
@@ -95,8 +102,6 @@ TEST(Game, FromTheTitleThroughTheFirstRoundsToASavedGame) {
                   "Details on current transaction:\nYou bought 1 Troops for $10 in Midwest USA.\n"
                   "You bought 3 oil barrels for $1.\n\n        Total spent: $11");
         EXPECT_EQ(Type("\nS7\t2\n\nt"), "Vorlund - Anna's turn [] | Vorlund - Player 1 status");
-        EXPECT_EQ(StatusLines(),
-                  "Anna | $147 | 33 | 9 | 0 | 1 | 0 | 0 | 0 | 0\nDeveloping nuke... | 2 / 2 | + $26");
         Type("\nv My Game");
         sitting.Expect({"Information: Game 'my game.vrs' properly saved."});
         Type("\n");
@@ -139,8 +144,10 @@ TEST(Game, FromASavedGameToTheEnd) {
     Type("u");
     Click("frmUpgrade", "lblGo1");
     EXPECT_EQ(Text("frmUpgrade", "lblTop"), "Level 1 Economy upgrade complete.\nYou have $850 to spend.");
+    EXPECT_EQ(Text("frmUpgrade", "lbl1"), "Current Economy upgrade: 1\nNext upgrade cost: $300");
     Type("6\n\t6\n");
     EXPECT_EQ(Text("frmUpgrade", "lblTop"), "Defense built in Western USA.\nYou have $570 to spend.");
+    EXPECT_EQ(Entries(), "|");
     EXPECT_EQ(MapFault(sitting.Game()), "");
     Press(Qt::Key_Escape);
 
@@ -152,11 +159,15 @@ TEST(Game, FromASavedGameToTheEnd) {
               "Your nuclear attack upon Mexico was successful.\n"
               "Casualties for Player 2, Ben:\n        Troops: 1\n        Tanks: 0\n\n");
     EXPECT_EQ(Text("frm3", "lblCntry(8)"), "1/0");
+    constexpr QRect easternUsa(150, 110, 40, 20);
+    const auto land = [&] { return Window("frm3").grab(easternUsa).toImage(); };
+    const QImage before = land();
     EXPECT_EQ(Type("\na7\t8\t5\n"), "Vorlund - Anna's turn [bsrautev] | Vorlund - Battle Results");
     EXPECT_EQ(ReportText(),
               "The battle was successful... you now have control of Eastern USA.\n"
               "Casualties for attacker (Player 1, Anna):\n        Troops: 1\n        Tanks: 0\n\n"
               "Casualties for defender (Player 2, Ben):\n        Troops: 2\n        Tanks: 0\n\n");
+    EXPECT_NE(land(), before);
     EXPECT_EQ(MapFault(sitting.Game()), "");
     Type("\na\t\t\t\t9\n");
     EXPECT_EQ(Beeps(), 1);  // no bomb left
@@ -169,6 +180,8 @@ TEST(Game, FromASavedGameToTheEnd) {
     sitting.Expect({"Warning: Player 1, Anna, you win the game!"});
     EXPECT_EQ(Type("e"), "Vorlund - Anna wins []");
     EXPECT_EQ(Control("frm3", "imgGameOver").accessibleName(), "Game over");
+    ShowTooltip("frm3", easternUsa.center());
+    EXPECT_FALSE(QToolTip::isVisible());
     EXPECT_EQ(sitting.Heard(), "Beep Explode Gun Gun");
     EXPECT_TRUE(EndsProgram([] { Close("frm3"); }));
 }
@@ -205,6 +218,8 @@ TEST(Sounds, TheMusicOnceAndAClickForEachCommandOfTheTitle) {
     QTest::qWait(300);
     EXPECT_EQ(recorded.Music, 1);
     EXPECT_EQ(sitting.Heard(), "Beep");
+    EXPECT_TRUE(QTest::qWaitFor([] { return Text("frm1", "lbl3").size() == 25; }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return TimerEvents() == 0; })) << "after the last credit";
     EXPECT_TRUE(EndsProgram([] { Click("frm1", "lblExit"); }));
     EXPECT_EQ(sitting.Heard(), "Beep Beep");
     Sitting left;

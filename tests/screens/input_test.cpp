@@ -71,6 +71,18 @@ TEST(Input, AHeldKeyActsOnce) {
     EXPECT_EQ(Hold(Qt::Key_Return, "\r", false), "Vorlund - Cleo's turn [] | Computer player Cleo's status");
 }
 
+TEST(Input, KeysWithoutATimeStampAreNotRepeats) {
+    Sitting sitting;
+    sitting.Resume(ThreePlayers);
+    for (const auto& [key, text] : {std::pair(Qt::Key_B, "b"), {Qt::Key_Escape, "\033"}, {Qt::Key_B, "b"}}) {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, {}, key, 0, 0, text);
+            QApplication::sendEvent(&FrontWindow(), &event);
+        }
+    }
+    EXPECT_EQ(Desktop(), AnnasDisabledBoard + "Vorlund - Buy");
+}
+
 TEST(Input, AHeldAcceleratorActsOnce) {
     Sitting sitting;
     sitting.Resume(ThreePlayers);
@@ -180,6 +192,14 @@ TEST(Input, ASecondClickOnAnotherTargetIsDropped) {
     EXPECT_EQ(sitting.Game().PlayerAt(3).EconomyLevel, 2) << "two clicks on the same target";
 }
 
+TEST(Input, ASecondClickOnACommandDisabledInBetweenIsDropped) {
+    Sitting sitting;
+    sitting.Resume(ThreePlayers);
+    FirstClick(Control("frm3", "lblBuy"));
+    Type("\033");
+    EXPECT_EQ(SecondClick(Control("frm3", "lblBuy")), AnnasTurn);
+}
+
 /// The press action of the accessibility interface.
 void PressByScreenReader(const QString& window, const QString& control) {
     QAccessible::queryAccessibleInterface(&Control(window, control))
@@ -192,7 +212,9 @@ TEST(Input, AMessageBoxBlocksTheOtherWindows) {
     DescribeScreensToAssistiveTechnology();
     {
         Sitting sitting;
-        Type(" \n");
+        Type(" ");
+        PressByScreenReader("frm2", "cmp(0)");  // a hidden control
+        Type("\n");
         sitting.Expect(
             {"NoIcon: Closing this window will terminate your new game.\nPress 'Yes' to exit or 'No' to "
              "return.",
@@ -243,6 +265,8 @@ TEST(Input, TheWinnersMessageBlocksCloseRequests) {
                                 Window(window).close();
                             }
                             EXPECT_TRUE(ReportText().endsWith(" is now dead.\n"));
+                            EXPECT_EQ(QApplication::activeModalWidget()->parentWidget(),
+                                      &Window("frmReport"));
                         }});
         EXPECT_EQ(Type(player == 2 ? "e" : "e\n"),
                   "Vorlund - " + winner + " wins [] | Computer player " + winner + "'s status");

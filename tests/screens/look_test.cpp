@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QFontInfo>
+#include <QScreen>
 #include <QTest>
+#include <QToolTip>
 #include <QWindow>
 
 #include "tests/screens/colours.h"
@@ -289,11 +292,17 @@ TEST(Look, TheRosterIsWrittenWholeAndLegible) {
 }
 
 TEST(Look, HoverColoursOfCommands) {
-    Sitting sitting;
     const auto seen = [](const QString& window, const char* pointed, const char* command) {
         PointAt(window, MiddleOf(Control(window, pointed)));
         return StateOf(window, command);
     };
+    {
+        Sitting newGame;
+        Click("frm1", "lblPlay");
+        EXPECT_EQ(seen("frm2", "opt3", "opt3"), "hover");
+        EXPECT_EQ(seen("frm2", "opt4", "opt3"), "rest");
+    }
+    Sitting sitting;
     EXPECT_EQ(seen("frm1", "lblPlay", "lblPlay"), "hover");
     EXPECT_EQ(seen("frm1", "lblLoad", "lblPlay"), "rest");  // only one at a time
     sitting.Resume(FullBoard());
@@ -301,25 +310,42 @@ TEST(Look, HoverColoursOfCommands) {
     EXPECT_EQ(seen("frm3", "lblSell", "lblBuy"), "hover");  // each until the pointer leaves
     Type("a");
     EXPECT_EQ(StateOf("frm3", "lblBuy"), "grey");
-    EXPECT_EQ(seen("frmAttack", "lblStrike", "lblStrike"), "grey");  // no bomb
     Type("\033");
     EXPECT_EQ(StateOf("frm3", "lblBuy"), "rest");
-    Type("u");
+    Type("a");
+    EXPECT_EQ(seen("frmAttack", "lblStrike", "lblStrike"), "grey");  // no bomb
+    Type("\033u");
     for (const char* price : {"lblP1", "lblP2"}) {
         EXPECT_EQ(seen("frmUpgrade", "lblGo4", "lblGo4"), "hover");
         EXPECT_EQ(seen("frmUpgrade", price, "lblGo4"), "rest");
     }
+    EXPECT_EQ(seen("frmUpgrade", "lblGo4", "lblGo4"), "hover");
+    PointAt("frm3", {2, 2});
+    EXPECT_EQ(StateOf("frmUpgrade", "lblGo4"), "rest") << "when the pointer has left the window";
     Type("\033e");
     EXPECT_EQ(seen("frmReport", "lblCont", "lblCont"), "hover");
     EXPECT_EQ(seen("frmReport", "lbl2", "lblCont"), "rest");
+    EXPECT_EQ(seen("frmReport", "lblCont", "lblCont"), "hover");
+    Type("\ne");
+    EXPECT_EQ(StateOf("frmReport", "lblCont"), "rest") << "of the next report";
 }
 
 TEST(Look, KeysZoomAllWindows) {
     Sitting sitting;
+    const QPoint middle = Window("frm1").geometry().center();
+    const qreal tooltip = QToolTip::font().pointSizeF();
+    const auto near = [](QPoint a, QPoint b) { return (a - b).manhattanLength() <= 4; };
+    EXPECT_TRUE(near(middle, Window("frm1").screen()->availableGeometry().center()));
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    const bool hasRoom = Window("frm1").screen()->availableSize().width() >= 800;  // at device pixel ratio 1
+    EXPECT_TRUE(!hasRoom || near(Window("frm1").geometry().center(), middle));
+    Press(Qt::Key_0, Qt::ControlModifier);
     sitting.Resume(FullBoard());
     Type("r");
     const QWidget& board = Window("frm3");
-    const QWidget& dialog = Window("frmTransport");
+    QWidget& dialog = Window("frmTransport");
+    const auto letters = [] { return Control("frmTransport", "lbl1").font().pixelSize(); };
+    const int smallLetters = letters();
     for (const auto& [key, zoom] : {std::pair(Qt::Key_Plus, 1.25),
                                     {Qt::Key_Equal, 1.5},
                                     {Qt::Key_Plus, 2.0},
@@ -330,7 +356,21 @@ TEST(Look, KeysZoomAllWindows) {
         Press(key, Qt::ControlModifier);
         EXPECT_EQ(board.size(), (QSizeF(750, 525) * zoom).toSize());
         EXPECT_EQ(dialog.size(), (QSizeF(391, 110) * zoom).toSize());
+        EXPECT_DOUBLE_EQ(QToolTip::font().pointSizeF(), tooltip * zoom);
+        EXPECT_NEAR(letters(), smallLetters * zoom, 2);
+        const QImage background = LoadPicture("frmTransport", dialog.devicePixelRatioF(), zoom).toImage();
+        const QPoint corner = background.rect().bottomRight() - QPoint(8, 8);
+        EXPECT_EQ(dialog.grab().toImage().pixel(corner), background.pixel(corner));
     }
+    EXPECT_TRUE(!hasRoom || std::abs(dialog.geometry().center().x() - board.geometry().center().x()) <= 4);
+    const qreal plain = QApplication::font("QMessageBox").pointSizeF();
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    sitting.Expect({"Warning: Enter a number 1-42 for the territory with the starting units.", "\n", [plain] {
+                        EXPECT_DOUBLE_EQ(QApplication::activeModalWidget()->font().pointSizeF(),
+                                         plain * 1.25);
+                    }});
+    Type("\n");
+    Press(Qt::Key_0, Qt::ControlModifier);
     const auto starts = [](QSize room, bool scaled) { return StartingZoom({750, 525}, room, scaled); };
     EXPECT_EQ(starts({2560, 1400}, false), 2.0);
     EXPECT_EQ(starts({2560, 1400}, true), 1.0);

@@ -7,7 +7,7 @@
 #include "tests/screens/driver.h"
 
 // What needs an X server and a window manager: its key repeats and modifiers, double clicks over two windows,
-// window frames, close buttons and icons.
+// window frames and icons.
 
 namespace vorlund {
 namespace {
@@ -37,10 +37,6 @@ QString Mouse(QPoint place, const QString& commands) {
     Output("xdotool", QString("mousemove %1 %2 %3").arg(place.x()).arg(place.y()).arg(commands));
     QTest::qWait(200);
     return Desktop();
-}
-
-QString ClickCloseButton(const QString& window) {
-    return Mouse(Window(window).frameGeometry().topRight() + QPoint(-12, 12), "click 1");
 }
 
 QPoint On(const QString& window, const QString& control) {
@@ -106,19 +102,6 @@ TEST(OnX, EachReportIsPlacedBelowTheBoard) {
         EXPECT_NEAR(place.top(), board.bottom() + 1, 4);
         Type("\n");
     }
-}
-
-TEST(OnX, CloseButtonsDoNothingWhileAWinnerIsAnnounced) {
-    Sitting sitting(std::make_unique<SeededRandom>(3));
-    sitting.Resume(NewGame(
-        3, "27 Anna 1/0; 35 Ben 1/0; 26 Cleo 100/0; 34 Cleo 300/0; Ben IsComputer 1; Cleo IsComputer 1"));
-    sitting.Expect({"Warning: Player 3, Cleo, wins the game!", "\n", [] {
-                        ClickCloseButton("frm3");
-                        ClickCloseButton("frmReport");
-                        EXPECT_TRUE(ReportText().endsWith(" is now dead.\n"));
-                    }});
-    EXPECT_EQ(Type("e\n"), "Vorlund - Cleo wins [] | Computer player Cleo's status");
-    EXPECT_EQ(ClickCloseButton("frmReport"), "Vorlund - Cleo wins []");
 }
 
 TEST(OnX, WindowsHaveTheIcon) {
