@@ -19,7 +19,7 @@ Field::Field(QWidget* parent, const QString& objectName, const QRect& frame, int
     setObjectName(objectName);
     PlaceAt(frame);
     setMaxLength(maxLength);
-    setFrame(false);  // a style draws a ring of its own in it, beside the window's
+    setFrame(false);  // without a frame no style paints a focus ring inside the one of the window
     setTextMargins(1, 0, 1, 0);
     QPalette colours = palette();
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {

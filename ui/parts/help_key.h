@@ -6,8 +6,8 @@
 
 namespace vorlund {
 
-/// One for the application, on which it installs itself: F1 opens the help from every window. While a message
-/// box waits, which would keep the help from being read, it does nothing.
+/// An event filter on the application that opens the help on F1 in every window, except while a message box
+/// is open, whose modality would block the help window. The application has one.
 class HelpKey final : public QObject {
     Q_OBJECT
 

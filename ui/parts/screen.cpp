@@ -113,7 +113,7 @@ void Screen::Present() {
     }
     if (++timesPresented_ == 1) {
         TextLabel::FitAlike(captions_);
-        // After each of them has been fitted by itself
+        // Connected after the labels, so called when each has been fitted to the new zoom
         connect(&Zoom::OfApplication(), &Zoom::Changed, this, [this] { TextLabel::FitAlike(captions_); });
     }
     RestCommands();

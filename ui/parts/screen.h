@@ -67,7 +67,7 @@ protected:
     /// Adds a field; `caption` is its accessible name.
     Field* AddField(TextLabel* caption, const QString& name, QPoint position, int maxLength, int width = 33);
 
-    /// Has `caption` written in one size with all captions of fields.
+    /// Adds `caption` to the labels that share one font size.
     void ShareSize(TextLabel* caption) { captions_.push_back(caption); }
 
     CommandLabel* AddCommand(const QString& name, const QString& caption, const QRect& box);

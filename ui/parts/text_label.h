@@ -23,7 +23,7 @@ public:
     /// Moves the label to `frame`, in pixels of the layout, and fits its font to the new width.
     void Refit(const QRect& frame);
 
-    /// Writes all of these in the size of the one that had to be written smallest.
+    /// Sets the font of all `labels` to the smallest and narrowest that one of them needs.
     static void FitAlike(const std::vector<TextLabel*>& labels);
 
 protected:

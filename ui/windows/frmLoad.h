@@ -34,7 +34,7 @@ private:
     void Delete();
     void FillList();
 
-    /// Offers what can be done with the selected game, if one is.
+    /// Enables Load and Delete if a game is selected.
     void OfferCommands();
     std::optional<std::string> Selected() const;
 

@@ -67,7 +67,7 @@ void frmReport::ShowReport(const Report& report, const Picture* picture, QWidget
 }
 
 void frmReport::LayOut() {
-    // On one line with the picture, and right behind it where there is one
+    // With a picture, the headline starts to the right of it on the same line.
     const bool pictured = imgC_->isVisibleTo(this);
     const int left = pictured ? PictureFrame.right() + PictureGap - HeadlineFrame.left() : 0;
     const int below =
@@ -75,7 +75,7 @@ void frmReport::LayOut() {
     lbl1_->setContentsMargins(Zoomed(left), 0, 0, Zoomed(below));
     lbl1_->setAlignment((pictured ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
     lbl1_->Refit(HeadlineFrame);
-    // The body's last line ends with a line break, below which nothing needs room.
+    // Without the line break at the end of the body, which needs no room.
     const QSize body = scroll_->size();
     const QFontMetrics metrics(lbl2_->font());
     const QString text = lbl2_->text().trimmed();
