@@ -12,6 +12,7 @@
 #include "tests/engine/games.h"
 #include "tests/rules/small_worlds.h"
 #include "ui/machine/sound_player.h"
+#include "ui/parts/zoom.h"
 #include "ui/program.h"
 #include "ui/windows/board_window.h"
 
@@ -171,6 +172,24 @@ std::pair<double, double> MedianRefresh(Run& run) {
     return {Median(calls), Median(painted)};
 }
 
+/// The milliseconds of RefreshMap and the painting that it causes when every territory has another owner.
+double MedianReload(Run& run) {
+    auto& board = dynamic_cast<BoardWindow&>(Shown("vorlund::frm3"));
+    std::vector<double> painted;
+    for (int load = 0; load < 5; ++load) {
+        for (int t = 0; t < NumTerritories; ++t) {
+            const int loser = run.Game.TerritoryAt(t).Owner;
+            Abandon(run.Game, t);
+            Give(run.Game, t, (loser + 1) % MaxPlayers, t + load);
+        }
+        painted.push_back(Milliseconds([&] {
+            board.RefreshMap();
+            QApplication::processEvents();
+        }));
+    }
+    return Median(painted);
+}
+
 double SlowestSound(Sounds& sounds) {
     double slowest = 0;
     for (int i = 0; i < 200; ++i) {
@@ -204,6 +223,14 @@ double MicrosecondsATurn() {
     return elapsed * 1000 / Turns;
 }
 
+void PrintRefresh(Run& run) {
+    QApplication::processEvents();
+    const auto [refresh, refreshed] = MedianRefresh(run);
+    Row("RefreshMap after a battle, the median of 42", refresh, "ms", 0.5);
+    Row("and with the painting of what has changed", refreshed, "ms", 1000.0 / 60);
+    Row("RefreshMap and painting after a whole load, the median of 5", MedianReload(run), "ms", 100);
+}
+
 void PrintTable(Run& run) {
     Row("start to the title's first paint, to a bare window's",
         RatioToBareWindow("title", 21, [](const Child& child) { return child.StartToPaint; }), "x", 1.4);
@@ -218,9 +245,10 @@ void PrintTable(Run& run) {
     QTimer::singleShot(1000, &settle, &QEventLoop::quit);
     settle.exec();  // the board has been painted before the first key
     Row("key to the dialog's first paint, the slowest of seven", SlowestKey(), "ms", 1000.0 / 60);
-    const auto [refresh, refreshed] = MedianRefresh(run);
-    Row("RefreshMap after a battle, the median of 42", refresh, "ms", 0.5);
-    Row("and with the painting of what has changed", refreshed, "ms", 1000.0 / 60);
+    PrintRefresh(run);
+    Zoom::OfApplication().Set(2.0);
+    std::puts("at zoom 2:");
+    PrintRefresh(run);
     Row("a sound asked for, the slowest of 200", SlowestSound(run.Sounds), "ms", 1);
 }
 
