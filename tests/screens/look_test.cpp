@@ -342,7 +342,7 @@ TEST(Look, KeysZoomAllWindows) {
     Press(Qt::Key_0, Qt::ControlModifier);
     sitting.Resume(FullBoard());
     Type("r");
-    const QWidget& board = Window("frm3");
+    QWidget& board = Window("frm3");
     QWidget& dialog = Window("frmTransport");
     const auto letters = [] { return Control("frmTransport", "lbl1").font().pixelSize(); };
     const int smallLetters = letters();

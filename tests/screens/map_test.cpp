@@ -65,7 +65,7 @@ TEST(Map, EveryNumberMarkerIconAndCountBelongsToItsTerritory) {
     sitting.Resume(game);
     for (int t = 0; t < NumTerritories; ++t) {
         for (const char* name : {"imgCntry", "imgExtra", "lblCntry"}) {
-            const QWidget& part = Control("frm3", QString("%1(%2)").arg(name).arg(t));
+            QWidget& part = Control("frm3", QString("%1(%2)").arg(name).arg(t));
             const auto* count = dynamic_cast<const CountLabel*>(&part);
             const QRect seen = (count != nullptr ? count->Plate() : part.rect()).translated(part.pos());
             for (const QPoint place : {seen.center(), seen.bottomLeft(), seen.topRight()}) {
@@ -285,7 +285,7 @@ TEST(Map, QuantitiesChangeByWheelAndArrowKeys) {
     Type("8");
     EXPECT_EQ(troops(), "8") << "typing replaces it";
     const auto limit = [](const char* window, const char* field) {
-        const QWidget& quantity = Control(window, field);
+        QWidget& quantity = Control(window, field);
         EXPECT_EQ(quantity.accessibleDescription(), quantity.toolTip());
         return quantity.toolTip();
     };
