@@ -11,8 +11,8 @@
 
 namespace vorlund {
 
-/// One line of the roster's cells: a player, or a figure of a treasury. Words that do not fit are written
-/// narrower and smaller, and at last cut off; the tooltip has them whole.
+/// A label of the roster: a player with the number of territories, or an amount of the treasury. Words that
+/// do not fit are condensed, then shrunk, then elided; the tooltip shows all of them.
 class RosterCell : public Placed<QLabel> {
     Q_OBJECT
 
@@ -24,14 +24,14 @@ public:
         bool IsComputer = false;
         bool IsDead = false;
         bool IsMarked = false;  ///< has the turn, or has won
-        QString Aloud;          ///< what is said of it: in the tooltip, and by a screen reader
+        QString Aloud;          ///< accessible name and tooltip
 
         bool operator==(const Content&) const = default;
     };
 
     RosterCell(QWidget* parent, const QString& objectName, const QRect& frame);
 
-    /// Nothing is painted anew when the cell shows this already.
+    /// Repaints only if the content has changed.
     void Show(const Content& content);
 
 protected:
@@ -47,11 +47,12 @@ private:
     QRectF computerRoom_;
 };
 
-/// The strip of the board under the commands: who plays, with how many territories, whose turn it is and who
-/// is dead; and in a second line what a human who has the turn can spend.
+/// The strip of the board under the commands: the players with their territories, turn and death, and in a
+/// second line the treasury of the human whose turn it is.
 class Roster {
 public:
-    /// `markers` are the players'; they must outlive it. Its cells belong to `board`.
+    /// Makes the cells as children of `board`. `markers` are the players' pictures and must outlive the
+    /// roster.
     Roster(QWidget& board, const std::array<Picture, MaxPlayers>& markers);
 
     /// Shows the players of `game`, and the treasury of the current one if `withTreasury`.
