@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+#include "ui/parts/announcement.h"
+
 namespace vorlund {
 namespace {
 
@@ -33,6 +35,9 @@ TextLabel::TextLabel(QWidget* parent, const QString& objectName, Face face, cons
 void TextLabel::Show(std::string_view text) {
     setText(Displayed(text));
     ZoomChanged();
+    if (live_ && isVisible()) {
+        Announce(*this, this->text());
+    }
 }
 
 void TextLabel::Refit(const QRect& frame) {

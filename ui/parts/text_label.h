@@ -20,6 +20,10 @@ public:
     /// Shows a text of the rules, whose lines are separated by carriage returns.
     void Show(std::string_view text);
 
+    /// From now on, screen readers say each text that Show shows while the label is visible. (A window's
+    /// labels are read out when it opens.)
+    void SetLive() { live_ = true; }
+
     /// Moves the label to `frame`, in pixels of the layout, and fits its font to the new width.
     void Refit(const QRect& frame);
 
@@ -31,6 +35,7 @@ protected:
 
 private:
     Face face_;
+    bool live_ = false;
 };
 
 /// A territory's count of troops and tanks, on a dark plate that keeps it legible on any map colour.

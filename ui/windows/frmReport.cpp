@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/windows/frmReport.h"
 
-#include <QAccessible>
 #include <QFontMetrics>
 #include <QScrollBar>
 #include <QWindow>
 
+#include "ui/parts/announcement.h"
 #include "ui/parts/keys.h"
 #include "ui/parts/scroll_bars.h"
 #include "ui/windows/game_navigation.h"
@@ -59,11 +59,13 @@ void frmReport::ShowReport(const Report& report, const Picture* picture, QWidget
     scroll_->verticalScrollBar()->setValue(0);
     winId();
     windowHandle()->setTransientParent(owner != nullptr ? owner->windowHandle() : nullptr);
+    const bool opens = !isVisible();
     setAccessibleName(lbl1_->text());
-    setAccessibleDescription(lbl2_->text());
     Present();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    if (!opens) {
+        // A screen reader reads out a window when it is activated, and this one has been active before.
+        Announce(*this, lbl1_->text() + u'\n' + lbl2_->text());
+    }
 }
 
 void frmReport::LayOut() {

@@ -18,6 +18,7 @@ frmSelect::frmSelect(BoardWindow& board, GameState& game, Random& random, GameNa
       selection_(game, random) {
     lbl1_ = AddText(u"lbl1"_s, Face::Heading, QRect(16, 12, 328, 58));
     lbl1_->setAlignment(Qt::AlignCenter);
+    lbl1_->SetLive();
     TextLabel* lbl2 = AddText(u"lbl2"_s, Face::Caption, QRect(56, 92, 136, 19), "Territory number (1-42):");
     txtNum_ = AddField(lbl2, u"txtNum"_s, QPoint(196, 92), 2);
     CommandLabel* lblGo = AddCommand(u"lblGo"_s, u"Enter"_s, QRect(244, 92, 52, 19));
