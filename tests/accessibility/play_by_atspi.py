@@ -14,24 +14,19 @@ import time
 TURN = "Vorlund - Anna's turn"
 BOARD = ("button Buy (B)|button Sell (S)|button Transport (R)|button Attack (A)|button Upgrade (U)|button Status (T)|"
          "button End Turn (E)|button Save (V)")
-NONE_YET = ": Enter a territory of yours first."
 # For each command of the board: the dialog's title, its controls (role, name, key and description), and actions in it
 DIALOGS = {
-    "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):: at most 14 with $144|"
-            "text Number of Tanks($40):: at most 3 with $144|text Barrels of Oil($1/3):: at most 432 with $144|"
-            "button Buy (Enter)"),
-    "Sell": ("Vorlund - Sell", f"text Territory #:|text Number of Troops($7):{NONE_YET}|"
-             f"text Number of Tanks($30):{NONE_YET}|"
-             "text Barrels of Oil($1/3):: 30 barrels|button Sell (Enter)"),
+    "Buy": ("Vorlund - Buy", "text Territory # with Factory:|text Number of Troops($10):|text Number of Tanks($40):|"
+            "text Barrels of Oil($1/3):|button Buy (Enter)"),
+    "Sell": ("Vorlund - Sell", "text Territory #:|text Number of Troops($7):|text Number of Tanks($30):|"
+             "text Barrels of Oil($1/3):|button Sell (Enter)"),
     "Transport": ("Vorlund - Transport", "text Original territory #:|text Resulting territory #:|"
-                  f"text Number of Troops:{NONE_YET}|text Number of Tanks:{NONE_YET}|button Move (Enter)"),
-    "Attack": ("Vorlund - Attack", "text Attacking territory #:|text Defending territory #:|"
-               f"text Number of Troops:{NONE_YET}|"
-               f"text Number of Tanks:{NONE_YET}|button Attack (Enter)|text Territory # to nuke:|"
-               "button Launch Nuke (Enter)"),
+                  "text Number of Troops:|text Number of Tanks:|button Move (Enter)"),
+    "Attack": ("Vorlund - Attack", "text Attacking territory #:|text Defending territory #:|text Number of Troops:|"
+               "text Number of Tanks:|button Attack (Enter)|text Territory # to nuke:|button Launch Nuke (Enter)"),
     "Upgrade": ("Vorlund - Upgrade", "button Upgrade (Alt+1): Economy|button Upgrade (Alt+2): Warfare|"
-                "button Upgrade (Alt+3): Nuclear|text Territory #:: Build Factory|button Build Factory (Enter)|"
-                "text Territory #:: Build Defense|button Build Defense (Enter)"),
+                "button Upgrade (Alt+3): Nuclear|text Territory #:|button Build Factory (Enter)|"
+                "text Territory #:|button Build Defense (Enter)"),
     "Status": ("Vorlund - Player 1 status", "button Close (Enter)", "Close"),
     "Save": ("Vorlund - Save Game", "text Enter a name for the saved game:|button Enter (Enter)",
              "Enter a name for the saved game:=walk", "Enter")}
@@ -120,13 +115,15 @@ def is_control(node):
     """Whether it can be pressed, edited or focused. Pictures without a name count too, so that none passes."""
     acts = any(Atspi.Action.get_action_name(node, i) in ("Press", "Toggle") for i in range(node.get_n_actions()))
     role = node.get_role()
-    return (acts or has(node, "EDITABLE") or (has(node, "FOCUSABLE") and role != Atspi.Role.LABEL)
+    tells = role == Atspi.Role.LABEL or (role == Atspi.Role.LIST_ITEM and node.get_parent().get_role() != Atspi.Role.LIST)
+    return (acts or has(node, "EDITABLE") or (has(node, "FOCUSABLE") and not tells)
             or (role == Atspi.Role.IMAGE and not node.get_name()))
 
 
 def describe(node):
     key = Atspi.Action.get_key_binding(node, 0) if node.get_n_actions() and not has(node, "EDITABLE") else ""
-    description = node.get_description().removeprefix(f"Key: {key}")
+    # The fields' descriptions tell what could be entered.
+    description = "" if has(node, "EDITABLE") else node.get_description().removeprefix(f"Key: {key}")
     description = description.removeprefix("You have no nuclear bomb.")  # unless research has found one
     role = node.get_role_name().removeprefix("push ")
     return f"{role} {node.get_name()}" + (f" ({key})" if key else "") + (f": {description}" if description else "")
@@ -143,8 +140,8 @@ def play(program):
     program.use("Vorlund - Territory Select", "text Territory number (1-42):|button Enter (Enter)",
                 "Territory number (1-42):=7", "Enter")
     program.close_report("Upkeep status for Player 1, Anna.")
-    own = "7 Midwest USA: Anna (Player 1), 10 troops, 0 tanks, factory"
-    program.wait_for("names of the territories", lambda: own in {n.get_name() for n in program.nodes(TURN)})
+    own = "7 Midwest USA. Anna (Player 1), 10 troops, 0 tanks, factory."
+    program.wait_for("the territories", lambda: any(n.get_name().startswith(own) for n in program.nodes(TURN)))
     program.use(TURN, BOARD.replace("(A)", "(A): Nobody attacks in their first turn."), "End Turn")
     program.close_report("The computer did the following:")
     program.close_report("Upkeep status for Player 1, Anna.")

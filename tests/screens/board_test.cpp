@@ -23,7 +23,9 @@ QString Aloud(const QString& cells) {
     QStringList said;
     for (RosterCell* cell : Window("frm3").findChildren<RosterCell*>(QRegularExpression("^" + cells))) {
         if (cell->isVisible()) {
-            said << QAccessible::queryAccessibleInterface(cell)->text(QAccessible::Name);
+            QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(cell);
+            const QString details = spoken.text(QAccessible::Description);
+            said << spoken.text(QAccessible::Name) + (details.isEmpty() ? "" : ", " + details);
         }
     }
     return said.join(" | ");

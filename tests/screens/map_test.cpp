@@ -254,7 +254,6 @@ TEST(Map, QuantitiesChangeByWheelAndArrowKeys) {
     sitting.Resume(AnnaAndBen());
     Type("b");
     const auto troops = [] { return Text("frmBuy", "txtTroops"); };
-    Press(Qt::Key_Up);
     Turn("frmBuy", "txtC1", {0, 120});
     EXPECT_EQ(Text("frmBuy", "txtC1"), "") << "no quantity";
     Click("frm3", MarkerOf(7));

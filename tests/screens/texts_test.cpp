@@ -28,9 +28,13 @@ QString Spoken(const QString& window) {
         if (child->isVisible() && !child->isWindow() && !named && forms.contains(control.role())) {
             const bool isButton = control.role() == QAccessible::Button;
             const QString key = isButton ? control.text(QAccessible::Accelerator) : QString();
+            QString name = control.text(QAccessible::Name);
+            for (const auto& [caption, relation] : control.relations(QAccessible::Label)) {
+                name.prepend(label != nullptr ? caption->text(QAccessible::Name) + ' ' : "");
+            }
             const QString more = control.text(QAccessible::Description).remove("Key: " + key);
-            parts << forms[control.role()].arg(control.text(QAccessible::Name)) +
-                         (key.isEmpty() ? key : " (" + key + ")") + (more.isEmpty() ? more : ": " + more);
+            parts << forms[control.role()].arg(name) + (key.isEmpty() ? key : " (" + key + ")") +
+                         (more.isEmpty() ? more : ": " + more);
         }
     }
     return parts.join('|');
@@ -71,8 +75,7 @@ TEST(Texts, OfTheBoardItsDialogsAndReports) {
     Sitting sitting;
     sitting.Resume(NewGame(2, "7 Anna 12/1F; 16 Ben 1/0D; Anna Money 1000 MovesLeft 1 NuclearLevel 3"));
     EXPECT_TRUE(Spoken("frm3").endsWith(
-        "<Player 1>|<Factory>|<Player 2>|<Defense>|7 Midwest USA: Anna (Player 1), 12 troops, 1 tank, "
-        "factory|16 England: Ben (Player 2), 1 troop, 0 tanks, defense|Buy (B)|Sell (S)|Transport (R)|"
+        "<Player 1>|<Factory>|<Player 2>|<Defense>|12/1|1/0|Buy (B)|Sell (S)|Transport (R)|"
         "Attack (A)|Upgrade (U)|Status (T)|End Turn (E)|Save (V)|F1: the rules"))
         << Spoken("frm3").toStdString();
     const QString quantities = "[Number of Troops%1:]: %4|[Number of Tanks%2:]: %5|";
@@ -80,19 +83,22 @@ TEST(Texts, OfTheBoardItsDialogsAndReports) {
     const QString units = quantities.arg("", "", noTerritory, noTerritory);
     const std::vector<std::array<QString, 3>> rows{
         {"b", "frmBuy",
-         "You have $1000 to spend.|[Territory # with Factory:]|" +
+         "You have $1000 to spend.|[Territory # with Factory:]: Possible: 7|" +
              quantities.arg("($10)", "($40)", "at most 100 with $1000", "at most 25 with $1000") +
              "[Barrels of Oil($1/3):]: at most 999 with $1000|Buy (Enter)"},
         {"s", "frmSell",
-         "You may sell oil or Troops/Tanks in any of your territories.|[Territory #:]|" +
+         "You may sell oil or Troops/Tanks in any of your territories.|[Territory #:]: Possible: 7|" +
              quantities.arg("($7)", "($30)", noTerritory, noTerritory) +
              "[Barrels of Oil($1/3):]: 0 barrels|Sell (Enter)"},
         {"r", "frmTransport",
-         "Move Tanks/Troops:|You have 1 move left this turn.|[Original territory #:]|[Resulting territory "
+         "Move Tanks/Troops:|You have 1 move left this turn.|[Original territory #:]: Possible: 7|[Resulting "
+         "territory "
          "#:]|" +
              units + "Move (Enter)"},
         {"a", "frmAttack",
-         "Normal Attack:|You have 2 attacks left this turn.|[Attacking territory #:]|[Defending territory "
+         "Normal Attack:|You have 2 attacks left this turn.|[Attacking territory #:]: No territory is "
+         "possible|[Defending "
+         "territory "
          "#:]|" +
              units +
              "Attack (Enter)|Nuclear Attack:|You do not have a nuclear bomb.|[Territory # to nuke:]|"
@@ -102,12 +108,13 @@ TEST(Texts, OfTheBoardItsDialogsAndReports) {
          "Economy|"
          "Current Warfare upgrade: 0\nNext upgrade cost: $200|Upgrade (Alt+2): Warfare|"
          "Current Nuclear upgrade: 3\nNext upgrade cost: $max|Upgrade (Alt+3): Nuclear|"
-         "[Territory #:]: Build Factory|Build Factory (Enter)|$180|[Territory #:]: Build Defense|"
+         "[Territory #:]: Build Factory. No territory is possible|Build Factory (Enter)|$180|[Territory #:]: "
+         "Build Defense|"
          "Build Defense (Enter)|$100"},
         {"t", "frmStatus",
-         "Name:|Anna|Money:|$1000|Oil Barrels:|0|Total Troops:|12|Total Tanks:|1|Total Factories:|1|"
-         "Turns in Debt:|0|Economy Upgrade:|0|Warfare Upgrade:|0|Nuclear Upgrade:|3\nDeveloping nuke...|"
-         "Attacks/Moves left:|2 / 1|Current Upkeep/Turn:|+ $20|<Player 1>|Close (Enter)"},
+         "Name: Anna|Money: $1000|Oil Barrels: 0|Total Troops: 12|Total Tanks: 1|Total Factories: 1|"
+         "Turns in Debt: 0|Economy Upgrade: 0|Warfare Upgrade: 0|Nuclear Upgrade: 3\nDeveloping nuke...|"
+         "Attacks/Moves left: 2 / 1|Current Upkeep/Turn: + $20|<Player 1>|Close (Enter)"},
         {"v", "frmSave", "[Enter a name for the saved game:]|Enter (Enter)"},
         {"e", "frmReport", "Upkeep status for Player 2, Ben.|<Player 2>|Continue (Enter)"}};
     for (const auto& [keys, window, text] : rows) {

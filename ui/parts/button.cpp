@@ -36,10 +36,11 @@ void Button::changeEvent(QEvent* event) {
 }
 
 void Button::keyPressEvent(QKeyEvent* event) {
-    if (IsEnter(*event)) {
-        event->ignore();
-    } else {
+    // Not the arrow keys, with which the toolkit would move the focus: some windows use them otherwise.
+    if (event->key() == Qt::Key_Space || (isCheckable() && !IsEnter(*event))) {
         QAbstractButton::keyPressEvent(event);
+    } else {
+        event->ignore();
     }
 }
 

@@ -8,7 +8,8 @@
 namespace vorlund {
 
 /// Base class of commands and toggles. Space presses them; Enter is passed on to the window, even where the
-/// platform theme lists Enter among its press keys. The pointer is a hand over one that is enabled.
+/// platform theme lists Enter among its press keys, and so are the arrow keys unless the button is checkable.
+/// The pointer is a hand over one that is enabled.
 class Button : public Placed<QAbstractButton> {
     Q_OBJECT
 

@@ -3,7 +3,9 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
+#include "ui/parts/announcement.h"
 #include "ui/parts/keys.h"
 #include "ui/parts/look.h"
 
@@ -30,7 +32,7 @@ CommandLabel::CommandLabel(QWidget* parent, const QString& objectName, const QSt
     setShortcut({});  // no Alt accelerator: the window handles the bare letter that "&" underlines
     PlaceAt(box.adjusted(-PlateX, -PlateY, PlateX, PlateY));
     setMouseTracking(true);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     FitCaption();
 }
 
@@ -48,6 +50,13 @@ void CommandLabel::SetPlate(QSize size) {
 void CommandLabel::SetAvailable(bool available, const QString& whyNot) {
     setEnabled(available);
     setToolTip(available ? KeyTip() : whyNot);
+}
+
+void CommandLabel::TellWhyNot() {
+    if (!isEnabled()) {
+        QToolTip::showText(mapToGlobal(QPoint(0, height())), toolTip(), this);
+        Announce(*this, toolTip());
+    }
 }
 
 void CommandLabel::SetKey(const QString& key) {

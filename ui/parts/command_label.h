@@ -10,7 +10,7 @@ namespace vorlund {
 /// A clickable text. It is dark blue at rest, light blue under the pointer, and pale blue from a mouse press
 /// until the pointer moves. The plate behind it is light, and brighter under the pointer, where a dark
 /// outline keeps the contrast of the light text above 4.5:1. A disabled command is grey, has no plate and
-/// does not react to the mouse.
+/// does not react to the mouse. The Tab key reaches it; a click leaves the focus where it is.
 class CommandLabel : public Button {
     Q_OBJECT
 
@@ -28,6 +28,9 @@ public:
 
     /// Enables or disables the command. While it is disabled its tooltip shows `whyNot`, otherwise its key.
     void SetAvailable(bool available, const QString& whyNot);
+
+    /// While the command is disabled, shows the reason beside it and has a screen reader say it.
+    void TellWhyNot();
 
     /// Names the key that runs the command, in the tooltip and for screen readers. The key itself is handled
     /// by the window.

@@ -35,6 +35,11 @@ void Field::AcceptTerritoryClicks(Field* next) {
     next_ = next;
 }
 
+void Field::ShowNumber(int number) {
+    setText(QString::number(number));
+    selectAll();
+}
+
 void Field::EnterTerritory(int number) {
     setText(QString::number(number));
     window()->activateWindow();
@@ -61,8 +66,7 @@ void Field::Step(int by) {
     const int before = text().toInt();
     const int after = std::clamp(before + by, 0, limit_().Most);
     if (after != before) {
-        setText(QString::number(after));
-        selectAll();
+        ShowNumber(after);
     }
 }
 
@@ -80,11 +84,25 @@ bool Field::event(QEvent* event) {
 }
 
 void Field::focusInEvent(QFocusEvent* event) {
+    // Before the toolkit tells assistive technologies of the focus, because both change the description
     DescribeLimit();
-    QLineEdit::focusInEvent(event);
     if (acceptsTerritoryClicks_) {
         emit TerritoryFieldFocused();
     }
+    QLineEdit::focusInEvent(event);
+}
+
+bool Field::HandleTerritoryKey(const QKeyEvent& event) {
+    const int key = event.key();
+    if (IsPlain(event) && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+        emit TerritoryStepped(key == Qt::Key_Down ? 1 : -1);
+        return true;
+    }
+    if ((event.modifiers() & ~Qt::KeypadModifier) == Qt::AltModifier && IsArrow(key)) {
+        emit TerritoryWalked(key);
+        return true;
+    }
+    return false;
 }
 
 void Field::keyPressEvent(QKeyEvent* event) {
@@ -93,7 +111,7 @@ void Field::keyPressEvent(QKeyEvent* event) {
         emit Entered();
     } else if (limit_ && IsPlain(*event) && (up || event->key() == Qt::Key_Down)) {
         Step((up ? 1 : -1) * StepSize(event->modifiers()));
-    } else {
+    } else if (!acceptsTerritoryClicks_ || !HandleTerritoryKey(*event)) {
         QLineEdit::keyPressEvent(event);
     }
 }

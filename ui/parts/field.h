@@ -21,6 +21,9 @@ public:
     /// the field that gets the focus after that; null keeps it here.
     void AcceptTerritoryClicks(Field* next = nullptr);
 
+    /// Replaces the text by `number` and selects it, so that typing replaces it.
+    void ShowNumber(int number);
+
     /// Replaces the text by `number`, activates the window and focuses the next field, all of whose text is
     /// selected, so that typing replaces it.
     void EnterTerritory(int number);
@@ -45,6 +48,12 @@ public:
 signals:
     void Entered();
 
+    /// In a field for a territory's number, Down (`by` is 1) or Up (-1) has been pressed.
+    void TerritoryStepped(int by);
+
+    /// In a field for a territory's number, the arrow key `arrow` has been pressed with Alt.
+    void TerritoryWalked(int arrow);
+
     /// The field is one for a territory's number and has received the focus.
     void TerritoryFieldFocused();
 
@@ -56,6 +65,7 @@ protected:
 
 private:
     void Step(int by);
+    bool HandleTerritoryKey(const QKeyEvent& event);
 
     bool acceptsTerritoryClicks_ = false;
     Field* next_ = nullptr;

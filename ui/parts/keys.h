@@ -10,6 +10,11 @@ inline bool IsEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+/// True for the four arrow keys.
+inline bool IsArrow(int key) {
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 /// True when no modifier key but Shift is down.
 inline bool IsPlain(const QKeyEvent& event) {
     // The toolkit reports AltGr as a modifier only on X11. In the native modifiers it is Mod5, on Wayland

@@ -8,7 +8,9 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <algorithm>
 
+#include "ui/parts/keys.h"
 #include "ui/parts/placement.h"
 
 namespace vorlund {
@@ -112,6 +114,7 @@ void Screen::Present() {
         move(place.topLeft());
     }
     if (++timesPresented_ == 1) {
+        PutCommandsBehindFields();
         TextLabel::FitAlike(captions_);
         // Connected after the labels, so called when each has been fitted to the new zoom
         connect(&Zoom::OfApplication(), &Zoom::Changed, this, [this] { TextLabel::FitAlike(captions_); });
@@ -120,6 +123,21 @@ void Screen::Present() {
     show();
     raise();
     activateWindow();
+}
+
+void Screen::PutCommandsBehindFields() {
+    const auto isField = [&](QWidget* widget) {
+        return (widget->focusPolicy() & Qt::ClickFocus) != 0 &&
+               std::find(commands_.begin(), commands_.end(), widget) == commands_.end();
+    };
+    QWidget* last = this;
+    for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
+        last = isField(widget) ? widget : last;
+    }
+    for (CommandLabel* command : commands_) {
+        setTabOrder(last, command);
+        last = command;
+    }
 }
 
 void Screen::SetTitle(std::string_view title) {
@@ -167,6 +185,14 @@ void Screen::closeEvent(QCloseEvent* event) {
     event->setAccepted(closes);
     if (closes) {
         emit Closed();
+    }
+}
+
+void Screen::keyPressEvent(QKeyEvent* event) {
+    if (IsArrow(event->key()) && IsPlain(*event) && qobject_cast<QLineEdit*>(focusWidget()) == nullptr) {
+        focusNextPrevChild(event->key() == Qt::Key_Right || event->key() == Qt::Key_Down);
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 

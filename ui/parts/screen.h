@@ -19,7 +19,8 @@ namespace vorlund {
 
 /// Base class of the game's windows: a fixed size that follows the zoom, a background picture on black,
 /// helpers that add labels, fields and commands in pixels of the layout, the hover colours of the commands,
-/// and close requests that a window may refuse.
+/// and close requests that a window may refuse. The arrow keys move the focus as the Tab key does, where what
+/// has it has no use for them.
 class Screen : public QWidget {
     Q_OBJECT
 
@@ -42,8 +43,9 @@ public:
 
     bool ClosesOutright() const { return outright_; }
 
-    /// Shows, raises and activates the window, with its commands in their colour at rest. A window without a
-    /// parent that has not been moved is centred in the work area.
+    /// Shows, raises and activates the window, with its commands in their colour at rest, and behind its
+    /// fields in the order of the Tab key. A window without a parent that has not been moved is centred in
+    /// the work area.
     void Present();
     int TimesPresented() const { return timesPresented_; }
 
@@ -83,6 +85,7 @@ protected:
     virtual bool HandleCloseRequest() { return true; }
 
     void closeEvent(QCloseEvent* event) final;
+    void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -94,6 +97,7 @@ protected:
 private:
     void FollowZoom();
     void ZoomByKeys();
+    void PutCommandsBehindFields();
     void PaintFocusRing(QPainter& painter) const;
     void RestCommands(const CommandLabel* except = nullptr);
 

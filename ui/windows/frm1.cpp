@@ -49,7 +49,6 @@ void frm1::AddCommands() {
     const auto add = [this](const QString& name, const QString& caption, const QRect& box,
                             void (TitleNavigation::*run)()) {
         CommandLabel* command = AddCommand(name, caption, box);
-        command->setFocusPolicy(Qt::TabFocus);
         command->SetPlate(PlateSize);
         connect(command, &CommandLabel::clicked, this, [this, run] {
             sounds_.PlayWave(Wave::Beep);

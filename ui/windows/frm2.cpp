@@ -26,14 +26,15 @@ frm2::frm2(GameState& game, TitleNavigation& navigation)
     : Screen(nullptr, u"frm2"_s, u"Vorlund - New Game"_s, QSize(400, 250)),
       game_(game),
       navigation_(navigation) {
+    SetRole(QAccessible::Dialog);  // for screen readers to read out its prompt
     lbl1_ = AddText(u"lbl1"_s, Face::Heading, QRect(20, 14, 360, 22));
+    lbl1_->SetLive();
     lbl1_->Show("Select the number of players for the game:");
     AddChoices();
     for (int row = 0; row < MaxPlayers; ++row) {
         AddRow(row);
     }
     CommandLabel* lblCont = AddCommand(u"lblCont"_s, u"Continue >"_s, QRect(278, 216, 98, 19));
-    lblCont->setFocusPolicy(Qt::TabFocus);
     lblCont->SetKey(u"Enter"_s);
     connect(lblCont, &CommandLabel::clicked, this, &frm2::Cont);
     HoverOneAtATime();

@@ -81,10 +81,19 @@ frm3::frm3(const GameState& game, GameNavigation& navigation)
       imgExtraSet_{Picture(u"extra0"_s, u"Defense"_s), Picture(u"extra1"_s, u"Factory"_s),
                    Picture(u"extra2"_s, u"Factory and defense"_s)},
       gameOver_(u"gameover"_s, u"Game over"_s),
+      cursor_(*this, game),
+      tip_(new MapTip(this)),
       roster_(*this, imgSet_),
       land_(Background(), map_) {
     setFocusPolicy(Qt::TabFocus);  // a click leaves the focus where it is
     connect(&picker_, &TerritoryPicker::Changed, this, &frm3::RefreshCandidates);
+    connect(&picker_, &TerritoryPicker::Walked, this, &frm3::TellTerritory);
+    connect(&cursor_, &MapCursor::Moved, this, [this] {
+        RefreshPointed();
+        if (const auto territory = cursor_.Focused()) {
+            TellTerritory(*territory);
+        }
+    });
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) {
         lastWindow_ = window != nullptr && window != windowHandle() ? window : lastWindow_.data();
     });
@@ -129,7 +138,6 @@ void frm3::AddCommandBar() {
         const CommandPlace& place = CommandBar[static_cast<std::size_t>(command)];
         CommandLabel* label =
             AddCommand(place.Name.toString(), place.Caption.toString(), QRect(place.Position, QSize(90, 19)));
-        label->setFocusPolicy(Qt::TabFocus);
         label->SetKey(LetterOf(command).toUpper());
         connect(label, &CommandLabel::clicked, this, [this, command] { Run(command); });
         commands_[static_cast<std::size_t>(command)] = label;
@@ -202,7 +210,6 @@ void frm3::RefreshTerritory(int t, const Marker& marker) {
     marker.lblCntry->PlaceAt(QRect(x - 28, y + 12, 56, 17));
     marker.lblCntry->Show(std::to_string(territory.Stationed.Troops) + "/" +
                           std::to_string(territory.Stationed.Tanks));
-    marker.lblCntry->setAccessibleName(ShortDescription(game_, t));
 }
 
 void frm3::SetCommands(CommandSet available) {
@@ -240,8 +247,11 @@ void frm3::ShowRims(Rim rim, const TerritorySet& territories) {
 }
 
 void frm3::Run(Command command) {
-    if (commands_[static_cast<std::size_t>(command)]->isEnabled()) {
+    CommandLabel* label = commands_[static_cast<std::size_t>(command)];
+    if (label->isEnabled()) {
         navigation_.RunCommand(command);
+    } else {
+        label->TellWhyNot();
     }
 }
 
@@ -260,9 +270,27 @@ void frm3::AddTerritoryField(Field& field, const std::function<TerritorySet()>& 
 }
 
 void frm3::RefreshCandidates() {
-    ShowRims(Rim::Lit, picker_.Candidates());
+    const TerritorySet candidates = picker_.Candidates();
+    ShowRims(Rim::Lit, candidates);
+    RefreshPointed();
     if (picker_.Target() == nullptr) {
         PointAt(std::nullopt);
+    } else if (const auto entered = picker_.Entered()) {
+        picker_.Describe(DescriptionInOneLine(game_, *entered) +
+                         (Has(candidates, *entered) ? QString() : u". Not possible here"_s));
+    } else {
+        picker_.Describe(CandidatesText(candidates));
+    }
+}
+
+void frm3::RefreshPointed() {
+    const auto entered = picker_.Entered();
+    const auto focused = cursor_.Focused();
+    ShowRims(Rim::Pointed,
+             TerritoriesWhere([&](int t) { return t == pointed_ || t == entered || t == focused; }));
+    if (tipOf_ && tipOf_ != entered && tipOf_ != focused) {
+        tip_->hide();
+        tipOf_.reset();
     }
 }
 
@@ -292,7 +320,7 @@ std::optional<int> frm3::TerritoryAt(QPointF place) const {
 void frm3::PointAt(std::optional<int> territory) {
     if (pointed_ != territory) {
         pointed_ = territory;
-        ShowRims(Rim::Pointed, TerritoriesWhere([&](int t) { return t == territory; }));
+        RefreshPointed();
         setCursor(territory ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
 }
@@ -337,21 +365,27 @@ void frm3::mousePressEvent(QMouseEvent* event) {
 
 bool frm3::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
-        ShowTerritoryTip(*static_cast<QHelpEvent*>(event));
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (const auto territory = TerritoryAt(help->pos())) {
+            ShowTip(*territory, help->globalPos());
+        } else {
+            QToolTip::hideText();
+        }
         return true;
     }
     return Screen::event(event);
 }
 
-void frm3::ShowTerritoryTip(const QHelpEvent& event) {
-    const auto territory = TerritoryAt(event.pos());
-    if (!territory) {
-        QToolTip::hideText();
-        return;
-    }
+void frm3::ShowTip(int territory, QPoint place) {
     // Escaped: a player may have typed markup as a name.
-    const QString tip = FullDescription(game_, *territory).toHtmlEscaped();
-    QToolTip::showText(event.globalPos(), u"<p style='white-space:pre'>%1</p>"_s.arg(tip), this);
+    const QString tip = FullDescription(game_, territory).toHtmlEscaped();
+    QToolTip::showText(place, u"<p style='white-space:pre'>%1</p>"_s.arg(tip), this);
+}
+
+void frm3::TellTerritory(int territory) {
+    const WorldEntry& entry = World[static_cast<std::size_t>(territory)];
+    tip_->ShowBeside(QPoint(entry.MapX, entry.MapY), FullDescription(game_, territory));
+    tipOf_ = territory;
 }
 
 void frm3::keyPressEvent(QKeyEvent* event) {
@@ -362,7 +396,9 @@ void frm3::keyPressEvent(QKeyEvent* event) {
             return;
         }
     }
-    Screen::keyPressEvent(event);
+    if (imgGameOver_->isVisible() || !cursor_.HandleKey(*event)) {
+        Screen::keyPressEvent(event);
+    }
 }
 
 }  // namespace vorlund

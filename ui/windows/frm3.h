@@ -12,13 +12,14 @@
 #include "state/game_state.h"
 #include "turn/commands.h"
 #include "ui/windows/board_window.h"
+#include "ui/windows/map_cursor.h"
+#include "ui/windows/map_tip.h"
 #include "ui/windows/owner_map.h"
 #include "ui/windows/roster.h"
 #include "ui/windows/territory_map.h"
 #include "ui/windows/territory_picker.h"
 #include "ui/windows/territory_rims.h"
 
-class QHelpEvent;
 class QWindow;
 
 namespace vorlund {
@@ -80,8 +81,10 @@ private:
     void RefreshTerritory(int t, const Marker& marker);
     std::optional<int> TerritoryAt(QPointF place) const;
     void PointAt(std::optional<int> territory);
+    void RefreshPointed();
     void RefreshCandidates();
-    void ShowTerritoryTip(const QHelpEvent& event);
+    void ShowTip(int territory, QPoint place);
+    void TellTerritory(int territory);
     void Run(Command command);
 
     const GameState& game_;
@@ -94,6 +97,9 @@ private:
     PictureLabel* imgGameOver_;
     TextLabel* verdict_;
     QTimer tmrFirst_;
+    MapCursor cursor_;
+    MapTip* tip_;
+    std::optional<int> tipOf_;  ///< the territory that tip_ describes
     Roster roster_;
     std::optional<int> treasuryOf_;  ///< the player who has had commands enabled in this turn
     TerritoryMap map_;

@@ -64,6 +64,7 @@ OrderEntries frmAttack::Entries() const {
 }
 
 void frmAttack::Attack() {
+    lblAttack_->TellWhyNot();
     const auto outcome = Attck(game_, random_, Entries());
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Gun);
@@ -72,6 +73,7 @@ void frmAttack::Attack() {
 }
 
 void frmAttack::LaunchNuke() {
+    lblStrike_->TellWhyNot();
     const auto outcome = Strike(game_, txtN_->Typed());
     if (std::holds_alternative<Report>(outcome)) {
         sounds_.PlayWave(Wave::Explode);

@@ -37,7 +37,6 @@ frmLoad::frmLoad(GameState& game, const SavedGamesFolder& saves, TitleNavigation
     for (int i = 0; i < 3; ++i) {
         CommandLabel* lblGo = AddCommand(u"lblGo(%1)"_s.arg(i), captions[static_cast<std::size_t>(i)],
                                          QRect(212, 56 + 40 * i, 112, 19));
-        lblGo->setFocusPolicy(Qt::TabFocus);
         lblGo->SetKey(keys[static_cast<std::size_t>(i)]);
         connect(lblGo, &CommandLabel::clicked, this, [this, i] { CallLoad(i); });
         lblGo_[static_cast<std::size_t>(i)] = lblGo;
@@ -100,6 +99,7 @@ void frmLoad::CallLoad(int index) {
 void frmLoad::Load() {
     const auto file = Selected();
     if (!file) {
+        lblGo_[0]->TellWhyNot();
         return;
     }
     const auto loaded = saves_.Load(*file, game_);
@@ -116,6 +116,7 @@ void frmLoad::Load() {
 
 void frmLoad::Delete() {
     const auto file = Selected();
+    lblGo_[1]->TellWhyNot();
     if (!file || !Ask(this, DeleteQuestion(*file), u"Confirm Delete"_s)) {
         return;
     }

@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize Size(320, 340);
+constexpr int FirstLine = 14;
 constexpr int LineHeight = 22;
 
 }  // namespace
@@ -37,12 +38,19 @@ frmStatus::frmStatus(DialogHost& host, const GameState& game, const Picture& mar
                                     {"Nuclear Upgrade:", u"lblNuc"_s, lines.Nuclear, 2},
                                     {"Attacks/Moves left:", u"lblAM"_s, lines.AttacksMoves},
                                     {"Current Upkeep/Turn:", u"lblUpkeep"_s, lines.Upkeep}}};
-    int y = 14;
+    int y = FirstLine;
     for (const Row& row : rows) {
         const int height = 8 + 14 * row.Lines;
-        ShareSize(
-            AddText(row.Control + u"Caption"_s, Face::Caption, QRect(44, y, 122, LineHeight), row.Caption));
-        AddText(row.Control, Face::Value, QRect(172, y, 136, height), row.Value);
+        TextLabel* caption =
+            AddText(row.Control + u"Caption"_s, Face::Caption, QRect(44, y, 122, LineHeight), row.Caption);
+        ShareSize(caption);
+        TextLabel* value = AddText(row.Control, Face::Value, QRect(172, y, 136, height), row.Value);
+        // A stop of the Tab key, so that screen readers read line by line
+        value->setFocusPolicy(Qt::TabFocus);
+        caption->setBuddy(value);
+        if (y == FirstLine) {
+            value->setFocus();
+        }
         y += row.Lines * LineHeight - (row.Lines - 1) * 8;
     }
     auto* img1 = new PictureLabel(this, u"img1"_s, QRect(22, 20, 10, 10));

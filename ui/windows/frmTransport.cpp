@@ -11,6 +11,7 @@ frmTransport::frmTransport(DialogHost& host, GameState& game)
     : CommandDialog(host, u"frmTransport"_s, u"Vorlund - Transport"_s, QSize(391, 110)), game_(game) {
     AddText(u"lbl1"_s, Face::Heading, QRect(8, 5, 124, 19), "Move Tanks/Troops:");
     lblA_ = AddText(u"lblA"_s, Face::Status, QRect(134, 5, 251, 19), MovesLeftText(game));
+    lblA_->SetLive();
     TextLabel* lbl3 = AddText(u"lbl3"_s, Face::Caption, QRect(10, 40, 112, 19), "Original territory #:");
     txtC1_ = AddField(lbl3, u"txtC1"_s, QPoint(124, 40), 2);
     TextLabel* label1 = AddText(u"Label1"_s, Face::Caption, QRect(10, 72, 112, 19), "Resulting territory #:");
@@ -39,6 +40,7 @@ OrderEntries frmTransport::Entries() const {
 }
 
 void frmTransport::Move() {
+    lblGo_->TellWhyNot();
     std::visit([this](const auto& outcome) { ShowOutcome(outcome); }, Tran(game_, Entries()));
 }
 

@@ -22,6 +22,7 @@ QString Numbered(const QString& stem, int number) {
 frmUpgrade::frmUpgrade(DialogHost& host, GameState& game)
     : CommandDialog(host, u"frmUpgrade"_s, u"Vorlund - Upgrade"_s, QSize(Width, 277)), game_(game) {
     lblTop_ = AddText(u"lblTop"_s, Face::Status, QRect(8, 4, Width - 16, 34));
+    lblTop_->SetLive();
     AddLine(u"Line1"_s, QPoint(12, 41), Width - 24);
     AddTrack(Track::Economy, u"Economy"_s, 1, 46);
     AddLine(u"Line2"_s, QPoint(12, 83), Width - 24);
@@ -77,6 +78,16 @@ void frmUpgrade::Update(const std::string& message) {
         row.Status->Show(StatusOf(game_, row.Which));
         EnableUnless(*row.Go, WhyNoUpgrade(game_, row.Which));
     }
+}
+
+void frmUpgrade::keyPressEvent(QKeyEvent* event) {
+    // The accelerator of a disabled command does not trigger and gets here.
+    for (const TrackRow& row : tracks_) {
+        if (QKeySequence(event->keyCombination()) == QKeySequence(row.Go->Key())) {
+            row.Go->TellWhyNot();
+        }
+    }
+    CommandDialog::keyPressEvent(event);
 }
 
 void frmUpgrade::ShowOutcome(const Purchase& purchase) {

@@ -16,6 +16,9 @@ class frmUpgrade final : public CommandDialog {
 public:
     frmUpgrade(DialogHost& host, GameState& game);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     struct TrackRow {
         Track Which;

@@ -52,20 +52,21 @@ RosterCell::Content PlayerContent(const GameState& game, int p, const Picture& m
     content.IsComputer = player.IsComputer;
     content.IsDead = player.IsDead;
     content.IsMarked = HasTurn(game, p) || HasWon(game, p);
-    QStringList aloud{content.Words, u"player %1"_s.arg(p + 1)};
+    QStringList details{u"player %1"_s.arg(p + 1)};
     if (player.IsComputer) {
-        aloud << u"computer"_s;
+        details << u"computer"_s;
     }
     if (player.IsDead) {
-        aloud << u"dead"_s;
+        details << u"dead"_s;
     } else {
         content.Figure = QString::number(CountOwned(game, p));
-        aloud << Territories(CountOwned(game, p));
+        details << Territories(CountOwned(game, p));
     }
     if (content.IsMarked) {
-        aloud << (HasTurn(game, p) ? u"on turn"_s : u"has won"_s);
+        details << (HasTurn(game, p) ? u"on turn"_s : u"has won"_s);
     }
-    content.Aloud = aloud.join(u", "_s);
+    content.Name = content.Words;
+    content.Details = details.join(u", "_s);
     return content;
 }
 
@@ -73,7 +74,7 @@ RosterCell::Content FigureContent(const QString& words, const QString& figure, c
     RosterCell::Content content;
     content.Words = words;
     content.Figure = figure;
-    content.Aloud = words + u": "_s + figure + unit;
+    content.Name = words + u": "_s + figure + unit;
     return content;
 }
 
@@ -94,7 +95,8 @@ RosterCell::RosterCell(QWidget* parent, const QString& objectName, const QRect& 
     setObjectName(objectName);
     PlaceAt(frame);
     setTextFormat(Qt::PlainText);
-    setMouseTracking(true);  // for the board's commands, which rest when the pointer is here
+    setFocusPolicy(Qt::TabFocus);  // so that screen readers read cell by cell
+    setMouseTracking(true);        // for the board's commands, which rest when the pointer is here
 }
 
 void RosterCell::Show(const Content& content) {
@@ -102,14 +104,18 @@ void RosterCell::Show(const Content& content) {
         return;
     }
     content_ = content;
-    setAccessibleName(content.Aloud);
+    setAccessibleName(content.Name);
     QPalette letters = palette();
     letters.setColor(QPalette::WindowText, content.IsDead              ? QColor(Dead)
                                            : content.Marker == nullptr ? QColor(Caption)
                                                                        : QColor(Words));
     setPalette(letters);
-    // As plain text: a player's name is whatever was typed.
-    setToolTip(u"<p style='white-space:pre'>%1</p>"_s.arg(content.Aloud.toHtmlEscaped()));
+    if (!content.Details.isEmpty()) {
+        setAccessibleDescription(content.Details);
+        // As plain text: a player's name is whatever was typed.
+        const QString tip = content.Name + u", "_s + content.Details;
+        setToolTip(u"<p style='white-space:pre'>%1</p>"_s.arg(tip.toHtmlEscaped()));
+    }
     ZoomChanged();
     update();
 }

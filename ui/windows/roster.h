@@ -24,7 +24,8 @@ public:
         bool IsComputer = false;
         bool IsDead = false;
         bool IsMarked = false;  ///< has the turn, or has won
-        QString Aloud;          ///< accessible name and tooltip
+        QString Name;           ///< accessible name
+        QString Details;        ///< accessible description; the tooltip shows it after the name
 
         bool operator==(const Content&) const = default;
     };

@@ -3,6 +3,7 @@
 
 #include <QStringList>
 
+#include "turn/upkeep.h"
 #include "ui/parts/look.h"
 
 namespace vorlund {
@@ -40,10 +41,6 @@ QStringList Holdings(const GameState& game, const Territory& territory) {
 
 }  // namespace
 
-QString ShortDescription(const GameState& game, int t) {
-    return NumberAndName(game, t) + u": "_s + Holdings(game, game.TerritoryAt(t)).join(u", "_s);
-}
-
 QString FullDescription(const GameState& game, int t) {
     const Territory& territory = game.TerritoryAt(t);
     QString neighbours;
@@ -51,13 +48,38 @@ QString FullDescription(const GameState& game, int t) {
     for (const std::int16_t n : territory.Neighbours) {
         if (n != NoNeighbour) {
             const QString separator = told == 0 ? u""_s : told % NeighboursPerLine == 0 ? u",\n"_s : u", "_s;
+            const Territory& neighbour = game.TerritoryAt(n);
             neighbours += separator + NumberAndName(game, n);
+            if (neighbour.Occupied) {
+                neighbours += u" (%1)"_s.arg(Displayed(game.PlayerAt(neighbour.Owner).Name));
+            }
             ++told;
         }
     }
     return NumberAndName(game, t) + u'\n' + Holdings(game, territory).join(u", "_s) +
-           u"\nValue %1"_s.arg(territory.Value) + (territory.HasOil ? u", oil field"_s : QString()) +
-           u"\nNeighbours: "_s + neighbours;
+           u"\nPays $%1 a turn"_s.arg(TerritoryIncome(territory.Value)) +
+           (territory.HasOil ? u", oil field"_s : QString()) + u"\nNeighbours: "_s + neighbours;
+}
+
+QString DescriptionInOneLine(const GameState& game, int t) {
+    return FullDescription(game, t).replace(u",\n"_s, u", "_s).replace(u'\n', u". "_s);
+}
+
+QString CandidatesText(const TerritorySet& candidates) {
+    constexpr std::size_t mostListed = 15;
+    if (candidates.none()) {
+        return u"No territory is possible"_s;
+    }
+    if (candidates.count() > mostListed) {
+        return u"%1 territories are possible"_s.arg(candidates.count());
+    }
+    QStringList numbers;
+    for (int t = 0; t < NumTerritories; ++t) {
+        if (Has(candidates, t)) {
+            numbers << QString::number(t + 1);
+        }
+    }
+    return u"Possible: "_s + numbers.join(u", "_s);
 }
 
 }  // namespace vorlund
