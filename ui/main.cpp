@@ -48,10 +48,9 @@ int main(int, char** arguments) {
     }
     const vorlund::InputFilter inputFilter;
     if (const QScreen* screen = QGuiApplication::primaryScreen(); screen != nullptr) {
-        const bool scaled =
-            screen->devicePixelRatio() != 1.0 || screen->logicalDotsPerInch() > StandardDotsPerInch;
         vorlund::Zoom::OfApplication().Set(
-            vorlund::StartingZoom(vorlund::frm3::Size, screen->availableSize(), scaled));
+            vorlund::StartingZoom(vorlund::frm3::Size, screen->availableSize(), screen->devicePixelRatio(),
+                                  screen->logicalDotsPerInch() > StandardDotsPerInch));
     }
     QToolTip::setPalette(vorlund::ToolTipColours());
     vorlund::DescribeScreensToAssistiveTechnology();

@@ -28,6 +28,13 @@ int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
     const QApplication application(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
+    if (qEnvironmentVariableIsSet("VORLUND_HIGH_CONTRAST")) {  // as a desktop's theme sets it
+        QPalette palette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::white, Qt::white, Qt::white,
+                         Qt::black, Qt::black);
+        palette.setColor(QPalette::Highlight, Qt::yellow);
+        palette.setColor(QPalette::HighlightedText, Qt::black);
+        QApplication::setPalette(palette);
+    }
     return RUN_ALL_TESTS();
 }
 

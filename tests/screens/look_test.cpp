@@ -374,12 +374,24 @@ TEST(Look, KeysZoomAllWindows) {
                     }});
     Type("\n");
     Press(Qt::Key_0, Qt::ControlModifier);
-    const auto starts = [](QSize room, bool scaled) { return StartingZoom({750, 525}, room, scaled); };
-    EXPECT_EQ(starts({2560, 1400}, false), 2.0);
-    EXPECT_EQ(starts({2560, 1400}, true), 1.0);
-    EXPECT_EQ(starts({1920, 1080}, false), 1.5);  // at 2 the title bar would not fit
-    EXPECT_EQ(starts({1500, 1200}, false), 1.0);
-    EXPECT_EQ(starts({1600, 1050}, false), 1.0);
+    const auto starts = [](QSize room, qreal ratio = 1.0, bool largeFonts = false) {
+        return StartingZoom({750, 525}, room, ratio, largeFonts);
+    };
+    EXPECT_EQ(starts({2560, 1400}), 2.0);
+    EXPECT_EQ(starts({2560, 1400}, 1.25), 1.0);
+    EXPECT_EQ(starts({2560, 1400}, 1.0, true), 1.0);
+    EXPECT_EQ(starts({1920, 1080}), 1.5);  // at 2 the title bar would not fit
+    EXPECT_EQ(starts({1500, 1200}), 1.0);
+    EXPECT_EQ(starts({1600, 1050}), 1.0);
+    EXPECT_EQ(starts({640, 512}), 1.0) << "smaller it could not be read";
+    EXPECT_EQ(starts({640, 512}, 2.0), 0.75);
+    EXPECT_EQ(starts({960, 540}, 2.0), 0.75);
+    EXPECT_EQ(starts({853, 682}, 1.5), 1.0);
+    Zoom::OfApplication().Set(0.75);
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Zoom::OfApplication().Factor(), 0.75);
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(Zoom::OfApplication().Factor(), 1.0);
 }
 
 TEST(Look, PicturesHaveDeviceResolution) {

@@ -9,6 +9,11 @@
 #include <cmath>
 
 namespace vorlund {
+namespace {
+
+constexpr qreal ReducedZoom = 0.75;
+
+}  // namespace
 
 Zoom& Zoom::OfApplication() {
     static QPointer<Zoom> zoom;
@@ -29,23 +34,24 @@ void Zoom::Set(qreal factor) {
     }
 }
 
-void Zoom::Step(int by) {
-    const auto* now = std::find(Steps.begin(), Steps.end(), factor_);
-    const auto next = std::clamp<std::ptrdiff_t>(now - Steps.begin() + by, 0, Steps.size() - 1);
-    Set(Steps[static_cast<std::size_t>(next)]);
-}
-
 void Zoom::In() {
-    Step(1);
+    const auto* next = std::upper_bound(Steps.begin(), Steps.end(), factor_);
+    Set(next == Steps.end() ? factor_ : *next);
 }
 
 void Zoom::Out() {
-    Step(-1);
+    const auto* next = std::lower_bound(Steps.begin(), Steps.end(), factor_);
+    Set(next == Steps.begin() ? factor_ : *std::prev(next));
 }
 
-qreal StartingZoom(QSize board, QSize room, bool desktopIsScaled) {
+qreal StartingZoom(QSize board, QSize room, qreal pixelRatio, bool largeFonts) {
     constexpr int frameHeight = 60;  // pixels, an upper bound for title bar and border
-    if (desktopIsScaled || room.width() <= 2 * board.width() || room.height() <= 2 * board.height()) {
+    const bool fits = room.width() >= board.width() && room.height() >= board.height() + frameHeight;
+    if (!fits && pixelRatio * ReducedZoom >= 1.0) {
+        return ReducedZoom;
+    }
+    if (pixelRatio != 1.0 || largeFonts || room.width() <= 2 * board.width() ||
+        room.height() <= 2 * board.height()) {
         return 1.0;
     }
     return room.height() >= 2 * board.height() + frameHeight ? 2.0 : 1.5;

@@ -9,9 +9,9 @@
 
 namespace vorlund {
 
-/// The factor from pixels of the layout to the toolkit's device-independent pixels: 1, 1.25, 1.5 or 2, the
-/// same for all windows. Geometry and font sizes in the code are for factor 1; widgets listen to Changed. The
-/// factor is not saved.
+/// The factor from pixels of the layout to the toolkit's device-independent pixels: 1, 1.25, 1.5 or 2,
+/// or at first 0.75, the same for all windows. Geometry and font sizes in the code are for factor 1; widgets
+/// listen to Changed. The factor is not saved.
 class Zoom : public QObject {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
 
     qreal Factor() const { return factor_; }
 
-    /// `factor` is one of Steps.
+    /// `factor` is one of Steps, or what StartingZoom returns.
     void Set(qreal factor);
 
     // Step up or down; nothing happens at either end.
@@ -35,7 +35,6 @@ signals:
 
 private:
     Zoom();
-    void Step(int by);
 
     qreal factor_ = 1.0;
     QFont toolTips_;  ///< tooltip font at factor 1
@@ -43,8 +42,9 @@ private:
 
 /// The initial factor for a board of size `board` in a work area of size `room`: 2 if the area is more than
 /// twice the board in both directions, but 1.5 if the window frame would not fit then, else 1. Always 1 on a
-/// desktop that scales pixels or fonts itself.
-qreal StartingZoom(QSize board, QSize room, bool desktopIsScaled);
+/// desktop that scales pixels, with `pixelRatio` for each, or fonts itself; but 0.75 if its pixels are so
+/// large that the board would not fit, as on a small screen with large text.
+qreal StartingZoom(QSize board, QSize room, qreal pixelRatio, bool largeFonts);
 
 /// A font of the platform theme, scaled by the factor; for message boxes and tooltips.
 QFont Zoomed(QFont font);
