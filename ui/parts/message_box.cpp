@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QWindow>
 
 #include "ui/parts/look.h"
@@ -59,6 +60,12 @@ int RunBox(QWidget* owner, QMessageBox::Icon icon, const QString& title, const s
     box.setFont(Zoomed(box.font()));
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::ApplicationModal);
+    if (auto* picture =
+            box.findChild<QLabel*>(u"qt_msgboxex_icon_label"_s)) {  // the toolkit gives it no name
+        picture->setAccessibleName(icon == QMessageBox::Warning    ? u"Warning"_s
+                                   : icon == QMessageBox::Question ? u"Question"_s
+                                                                   : u"Information"_s);
+    }
     const auto harmless = buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Ok;
     box.setDefaultButton(harmless);
     box.setEscapeButton(harmless);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "ui/machine/sounds.h"
+#include "ui/parts/announcement.h"
 #include "ui/windows/title_navigation.h"
 
 namespace vorlund {
@@ -88,6 +89,13 @@ void frm1::TypeCredit() {
         typed -= Credits[line].size();
     }
     tmr3_.stop();
+    if (isVisible()) {
+        QStringList credits;
+        for (const TextLabel* label : credits_) {
+            credits << label->text();
+        }
+        Announce(*this, credits.join(u'\n'));
+    }
 }
 
 bool frm1::HandleCloseRequest() {
