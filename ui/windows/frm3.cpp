@@ -275,11 +275,8 @@ void frm3::RefreshCandidates() {
     RefreshPointed();
     if (picker_.Target() == nullptr) {
         PointAt(std::nullopt);
-    } else if (const auto entered = picker_.Entered()) {
-        picker_.Describe(DescriptionInOneLine(game_, *entered) +
-                         (Has(candidates, *entered) ? QString() : u". Not possible here"_s));
     } else {
-        picker_.Describe(CandidatesText(candidates));
+        picker_.Describe(DescribeEntry(game_, picker_.Entered(), candidates));
     }
 }
 
@@ -367,19 +364,15 @@ bool frm3::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         if (const auto territory = TerritoryAt(help->pos())) {
-            ShowTip(*territory, help->globalPos());
+            // Escaped: a player may have typed markup as a name.
+            const QString tip = FullDescription(game_, *territory).toHtmlEscaped();
+            QToolTip::showText(help->globalPos(), u"<p style='white-space:pre'>%1</p>"_s.arg(tip), this);
         } else {
             QToolTip::hideText();
         }
         return true;
     }
     return Screen::event(event);
-}
-
-void frm3::ShowTip(int territory, QPoint place) {
-    // Escaped: a player may have typed markup as a name.
-    const QString tip = FullDescription(game_, territory).toHtmlEscaped();
-    QToolTip::showText(place, u"<p style='white-space:pre'>%1</p>"_s.arg(tip), this);
 }
 
 void frm3::TellTerritory(int territory) {

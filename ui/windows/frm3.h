@@ -83,7 +83,6 @@ private:
     void PointAt(std::optional<int> territory);
     void RefreshPointed();
     void RefreshCandidates();
-    void ShowTip(int territory, QPoint place);
     void TellTerritory(int territory);
     void Run(Command command);
 

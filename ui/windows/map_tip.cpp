@@ -21,7 +21,9 @@ MapTip::MapTip(QWidget* board) : QLabel(board) {
 void MapTip::ShowBeside(QPoint marker, const QString& text) {
     constexpr int above = 24;  // in pixels of the layout from the marker's place: the territory's number
     constexpr int below = 28;  // the marker and the count
-    setFont(QToolTip::font());
+    QFont font = QToolTip::font();
+    font.setBold(false);  // which it would inherit from the board
+    setFont(font);
     setPalette(QToolTip::palette());
     setForegroundRole(QPalette::ToolTipText);
     setBackgroundRole(QPalette::ToolTipBase);

@@ -44,7 +44,8 @@ void TerritoryPicker::Describe(const QString& text) {
     const QString whole = own.isEmpty() ? text : own + u". "_s + text;
     if (target_->accessibleDescription() != whole) {
         target_->setAccessibleDescription(whole);
-        target_->setToolTip(text);
+        // Escaped: a player may have typed markup as a name.
+        target_->setToolTip(u"<p>%1</p>"_s.arg(text.toHtmlEscaped()));
         if (typing_ && Entered()) {
             Announce(*target_, text);
         }

@@ -65,8 +65,12 @@ QString DescriptionInOneLine(const GameState& game, int t) {
     return FullDescription(game, t).replace(u",\n"_s, u", "_s).replace(u'\n', u". "_s);
 }
 
-QString CandidatesText(const TerritorySet& candidates) {
+QString DescribeEntry(const GameState& game, std::optional<int> entered, const TerritorySet& candidates) {
     constexpr std::size_t mostListed = 15;
+    if (entered) {
+        return DescriptionInOneLine(game, *entered) +
+               (Has(candidates, *entered) ? QString() : u". Not possible here"_s);
+    }
     if (candidates.none()) {
         return u"No territory is possible"_s;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "state/territory_set.h"
 
@@ -15,8 +16,9 @@ QString FullDescription(const GameState& game, int territory);
 /// FullDescription as one line, for screen readers.
 QString DescriptionInOneLine(const GameState& game, int territory);
 
-/// The numbers of the territories in `candidates`, those that an order could take, or how many they are:
-/// "Possible: 2, 7".
-QString CandidatesText(const TerritorySet& candidates);
+/// What a screen reader says of a field for a territory that an order could take from `candidates`: the
+/// territory index `entered` as DescriptionInOneLine does, and whether it is one of them; or else the numbers
+/// of the candidates, or how many they are: "Possible: 2, 7".
+QString DescribeEntry(const GameState& game, std::optional<int> entered, const TerritorySet& candidates);
 
 }  // namespace vorlund
