@@ -93,12 +93,6 @@ void CommandLabel::PaintPlate(QPainter& painter) const {
         painter.setBrush(Qt::white);
         painter.drawRoundedRect(plate.adjusted(rim / 2, rim / 2, -rim / 2, -rim / 2), radius, radius);
     }
-    if (hasFocus()) {
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(colour::Focus), 1.3 * zoom));
-        // At the edge of the plate, clear of the letters: light blue on amber has too little contrast.
-        painter.drawRoundedRect(plate.adjusted(0.1, 0.1, -0.1, -0.1), radius, radius);
-    }
 }
 
 void CommandLabel::PaintMark(QPainter& painter, const QColor& ink) const {

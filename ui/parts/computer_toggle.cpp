@@ -21,7 +21,7 @@ void ComputerToggle::paintEvent(QPaintEvent*) {
                        : underMouse() ? QColor(colour::Hover)
                                       : QColor(150, 160, 190);
     const qreal unit = width() / 21.0;  // one pixel of the layout, in which the toggle is 21 wide
-    painter.setPen(QPen(hasFocus() ? QColor(colour::Focus) : QColor(120, 130, 160), 1.4 * unit));
+    painter.setPen(QPen(QColor(120, 130, 160), 1.4 * unit));
     painter.setBrush(isChecked() ? QColor(120, 220, 120) : QColor(14, 18, 34));
     painter.drawRoundedRect(QRectF(rect()).adjusted(unit, unit, -unit, -unit), 3 * unit, 3 * unit);
     // The icon: a monitor, its stand and a keyboard

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int FieldHeight = 19;
-constexpr int FocusRing = 3;  ///< the ring's reach beyond a field, in pixels of the layout
+constexpr int FocusRing = 3;  ///< the ring's reach beyond the control, in pixels of the layout
 
 Qt::WindowFlags WithFrame(Qt::WindowFlags flags) {
     if (flags.testFlag(Qt::FramelessWindowHint)) {
@@ -224,10 +224,8 @@ void Screen::paintEvent(QPaintEvent* event) {
 
 void Screen::PaintFocusRing(QPainter& painter) const {
     const QWidget* focus = focusWidget();
-    // Buttons paint a ring themselves; the window itself has none.
-    if (focus == nullptr || focus == this || !focus->hasFocus() ||
-        qobject_cast<const QAbstractButton*>(focus) != nullptr) {
-        return;
+    if (focus == nullptr || focus == this || !focus->hasFocus()) {
+        return;  // the window itself has no ring
     }
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal zoom = Zoom::OfApplication().Factor();
