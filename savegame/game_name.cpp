@@ -2,6 +2,7 @@
 #include "savegame/game_name.h"
 
 #include <algorithm>
+#include <regex>
 
 #include "state/text.h"
 #include "state/utf8.h"
@@ -11,6 +12,12 @@ namespace {
 
 constexpr std::string_view Extension = ".vrs";
 constexpr std::u32string_view Forbidden = U"\\/:*?\"<>|";
+
+/// True for a name that Windows keeps for a device, whatever follows behind a dot.
+bool IsDevice(std::string_view typedName) {
+    static const std::regex devices("(con|prn|aux|nul|(com|lpt)([1-9]|\u00B9|\u00B2|\u00B3)) *(\\..*)?");
+    return std::regex_match(LowerCase(Trimmed(typedName)), devices);
+}
 
 }  // namespace
 
@@ -27,6 +34,10 @@ std::optional<std::string> WhyNoGameName(std::string_view typedName) {
     }
     if (std::any_of(characters->begin(), characters->end(), isUnusable)) {
         return "A game name cannot hold a control character or any of these:\r\\ / : * ? \" < > |";
+    }
+    if (IsDevice(typedName)) {
+        return "On Windows that is the name of a device: the game could not be loaded there.\r"
+               "Choose a different name and try again.";
     }
     return std::nullopt;
 }

@@ -10,8 +10,8 @@ namespace vorlund {
 // Names of saved games in UTF-8, and the texts of the save and load screens that contain them.
 
 /// Why no game can be saved under `typedName`, as a text for the player: it is empty, contains one of
-/// \ / : * ? " < > | or a control character, or is not valid UTF-8. Nothing when it can be used, as a name of
-/// spaces can.
+/// \ / : * ? " < > | or a control character, is not valid UTF-8, or belongs to a device of Windows, where
+/// such a game could not be loaded. Nothing when it can be used, as a name of spaces can.
 std::optional<std::string> WhyNoGameName(std::string_view typedName);
 
 /// The file of the game `typedName`: trimmed, in lower case, with ".vrs" appended.

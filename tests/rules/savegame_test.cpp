@@ -146,6 +146,15 @@ TEST(GameName, GivesAFileNameOrIsRefused) {
         EXPECT_EQ(WhyNoGameName(name),
                   "A game name cannot hold a control character or any of these:\r\\ / : * ? \" < > |");
     }
+    for (const char* const device :
+         {"con", " CON ", "Nul.old", "aux .x", "prn", "COM1", "lpt9.", "com\u00B9"}) {
+        EXPECT_EQ(WhyNoGameName(device),
+                  "On Windows that is the name of a device: the game could not be loaded there.\r"
+                  "Choose a different name and try again.");
+    }
+    for (const char* const name : {"con1", "com", "com0", "com10", "lp", "my con", ".con"}) {
+        EXPECT_EQ(WhyNoGameName(name), std::nullopt) << name;
+    }
     for (const char* const malformed : {"\xC3(", "\xC3", "\xC1\x81", "\xED\xA0\x80", "\xED\xBF\xBF",
                                         "\xF4\x90\x80\x80", "\x80", "\xE2\x82"}) {
         EXPECT_EQ(WhyNoGameName(malformed),
