@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-#include "savegame/system_calls.h"
+#include "machine/system_calls.h"
 #include "state/game_state.h"
 
 namespace vorlund {

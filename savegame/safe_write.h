@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "savegame/system_calls.h"
+#include "machine/system_calls.h"
 
 namespace vorlund {
 

@@ -4,7 +4,7 @@
 #include <QToolTip>
 #include <array>
 
-#include "ui/machine/data_folder.h"
+#include "machine/folders.h"
 #include "ui/machine/single_copy.h"
 #include "ui/machine/sound_player.h"
 #include "ui/parts/accessible.h"

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <regex>
+#include <sstream>
 
 #include "savegame/format.h"
 #include "state/consistent.h"
@@ -47,11 +48,12 @@ std::string WrongWithNumber(std::string_view text) {
     if (!std::regex_match(text.begin(), text.end(), grammar)) {
         return read ? "a text that is no number was read as one" : "";
     }
-    // strtod in the "C" locale, because the tests run under other locales too.
-    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
-    const double expected = strtod_l(std::string(text).c_str(), nullptr, cLocale);
+    // Streams have the "C" locale until they are given another.
+    std::istringstream stream{std::string(text)};
+    double expected = 0;
+    const bool fits = static_cast<bool>(stream >> expected);
     // Nothing is read from a number that is too large or subnormal.
-    const bool right = read ? *read == expected : std::isinf(expected) || !std::isnormal(expected);
+    const bool right = read ? fits && *read == expected : !fits || !std::isnormal(expected);
     return right ? "" : "a number was read as another one, or not at all";
 }
 

@@ -3,8 +3,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include "machine/folders.h"
 #include "tests/screens/driver.h"
-#include "ui/machine/data_folder.h"
 
 namespace vorlund {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <QDir>
 
-#include "ui/machine/data_folder.h"
+#include "machine/folders.h"
 
 namespace vorlund {
 
@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString LockPath() {
-    // Read from the environment: if there is no such folder, QStandardPaths makes one and prints a warning.
-    QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    // Not from QStandardPaths, which makes a folder and prints a warning if there is none.
+    QString folder = QString::fromStdString(RuntimeFolder());
     if (folder.isEmpty() || !QDir(folder).exists()) {
         const std::string data = DataFolder();
         folder = QString::fromStdString(data);

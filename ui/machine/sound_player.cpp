@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/machine/sound_player.h"
 
-#include <dlfcn.h>
-
+#include <QByteArray>
+#include <QtGlobal>
 #include <chrono>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
+#include "machine/sound_library.h"
 #include "ui/machine/sound_orders.h"
 
 namespace vorlund {
@@ -18,20 +18,26 @@ using namespace std::chrono_literals;
 constexpr auto ShutdownTimeout = 1s;  ///< opening a device, playing the click and closing take half of that
 
 void RunThread(const std::string& module, SoundOrders& orders) {
-    if (void* library = dlopen(module.c_str(), RTLD_NOW)) {
+    if (void* play = SoundFunction(module, "PlayRecordings")) {
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): dynamic symbols have no type
-        reinterpret_cast<PlayRecordingsFunction*>(dlsym(library, "PlayRecordings"))(orders);
+        reinterpret_cast<PlayRecordingsFunction*>(play)(orders);
     }
     const std::lock_guard lock(orders.Mutex);
     orders.Ended = true;
     orders.Changed.notify_all();
 }
 
+void SetUnlessSet(const char* variable, const char* value) {
+    if (!qEnvironmentVariableIsSet(variable)) {
+        qputenv(variable, QByteArray(value));
+    }
+}
+
 }  // namespace
 
 void SilenceSoundServerLogs() {
-    setenv("PULSE_LOG_SYSLOG", "1", 0);
-    setenv("PIPEWIRE_DEBUG", "0", 0);
+    SetUnlessSet("PULSE_LOG_SYSLOG", "1");
+    SetUnlessSet("PIPEWIRE_DEBUG", "0");
 }
 
 SoundPlayer::SoundPlayer(std::string module)

@@ -12,8 +12,8 @@ namespace vorlund {
 struct SoundOrders;
 
 /// Sets the environment variables that keep the client libraries of PulseAudio and PipeWire from logging to
-/// the terminal, unless they are set already. Call it before any thread is started: setenv is not
-/// thread-safe.
+/// the terminal, unless they are set already. Call it before any thread is started: changing the environment
+/// is not thread-safe.
 void SilenceSoundServerLogs();
 
 /// Plays the game's recordings, one at a time, beside the user interface.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "savegame/system_calls.h"
-
 #include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -11,6 +10,11 @@
 #include <climits>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+
+#include "machine/folders.h"
+#include "machine/sound_library.h"
+#include "machine/system_calls.h"
 
 namespace vorlund {
 namespace {
@@ -98,6 +102,25 @@ SystemCalls RealSystemCalls() {
     calls.ReadLink = ReadLink;
     calls.ListFolder = ListFolder;
     return calls;
+}
+
+std::string DataFolder() {
+    const char* const folder = std::getenv("XDG_DATA_HOME");
+    if (folder != nullptr && folder[0] == '/') {  // a relative path is invalid there and ignored
+        return folder;
+    }
+    const char* const home = std::getenv("HOME");
+    return std::string(home != nullptr ? home : "") + "/.local/share";
+}
+
+std::string RuntimeFolder() {
+    const char* const folder = std::getenv("XDG_RUNTIME_DIR");
+    return folder != nullptr ? folder : "";
+}
+
+void* SoundFunction(const std::string& path, const char* name) {
+    void* const library = dlopen(path.c_str(), RTLD_NOW);
+    return library != nullptr ? dlsym(library, name) : nullptr;
 }
 
 }  // namespace vorlund
